@@ -1,0 +1,38 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "memory.h"
+
+#include <functional>
+#include <lxpm/types.h>
+#include <string>
+#include <vector>
+
+namespace lxpm::bench {
+
+// One call on prepared operands.
+using Call = std::function<LxpStatus()>;
+
+// Something to measure: a call of the library. The program itself sets beside it the peers that offer a kernel of the
+// same name, if the operands are dense, and the bandwidth that the machine reaches on the same bytes.
+struct Case {
+    std::string group; // reported together, with a mean of their own: "cache-mam"
+    std::string name;  // function and size: "Add_mam_32f/4x4"
+    bool dense;        // as the operands of peers always are
+    const Setting &setting;
+    long objects; // computed by one call
+
+    // The bytes of the elements that one call reads and writes.
+    std::size_t bytesRead;
+    std::size_t bytesWritten;
+
+    // The call, with its operands laid out in that memory; its first result is Memory::result().
+    std::function<Call(const Memory &)> prepare;
+};
+
+// The list of all cases. A family appends its own.
+std::vector<Case> allCases();
+void appendAddSub(std::vector<Case> &cases);
+
+} // namespace lxpm::bench

@@ -1,0 +1,14 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "case.h"
+
+namespace lxpm::bench {
+
+std::vector<Case> allCases() {
+    std::vector<Case> cases;
+    appendAddSub(cases);
+    return cases;
+}
+
+} // namespace lxpm::bench

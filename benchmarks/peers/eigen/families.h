@@ -1,0 +1,12 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "peers/peer.h"
+
+namespace lxpm::bench::eigen {
+
+// Each appends the kernels of a family.
+void addAddSub(PeerTable &table);
+
+} // namespace lxpm::bench::eigen

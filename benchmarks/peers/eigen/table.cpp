@@ -1,0 +1,13 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "peers/eigen/families.h"
+
+extern "C" const lxpm::bench::PeerTable *LXPM_PEER_TABLE() {
+    static const lxpm::bench::PeerTable all = [] {
+        lxpm::bench::PeerTable table;
+        lxpm::bench::eigen::addAddSub(table);
+        return table;
+    }();
+    return &all;
+}

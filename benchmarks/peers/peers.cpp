@@ -1,0 +1,29 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "peers/peers.h"
+
+#include <algorithm>
+
+extern "C" {
+const lxpm::bench::PeerTable *lxpmPeer_eigen_avx();
+const lxpm::bench::PeerTable *lxpmPeer_eigen_native();
+}
+
+namespace lxpm::bench {
+
+const PeerKernel *Peer::find(const std::string &caseName) const {
+    const auto found =
+        std::find_if(kernels.begin(), kernels.end(), [&](const PeerKernel &kernel) { return kernel.name == caseName; });
+    return found == kernels.end() ? nullptr : &*found;
+}
+
+const std::vector<Peer> &peers() {
+    static const std::vector<Peer> all = {
+        {"Eigen-avx", *lxpmPeer_eigen_avx()},
+        {"Eigen-native", *lxpmPeer_eigen_native()},
+    };
+    return all;
+}
+
+} // namespace lxpm::bench

@@ -1,0 +1,92 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "elementwise/add_sub.h"
+
+#include "elementwise/map.h"
+#include "runtime/entry_call.h"
+#include "runtime/rows.h"
+#include "runtime/work.h"
+
+namespace lxpm {
+
+namespace {
+
+// The orders of the checks. A strided array of matrices with one matrix looks at the strides before the sizes, and an
+// array of vectors with one vector at the count late.
+constexpr Row<InOrder> orders[] = {
+    {"mam mma", Layouts::S, Types::Both, {Check::Pointers, Check::Count, Check::Strides, Check::Sizes}},
+    {"vav", Layouts::S, Types::Both, {Check::Pointers, Check::Sizes, Check::Strides, Check::Count}},
+    {"vav", Layouts::L, Types::Both, {Check::Pointers, Check::Sizes, Check::Strides, Check::Offsets, Check::Count}},
+    {"vav", Layouts::P, Types::Both, {Check::Pointers, Check::Sizes, Check::Strides, Check::Count, Check::Offsets}},
+    {allCodes,
+     Layouts::All,
+     Types::Both,
+     {Check::Pointers, Check::Count, Check::Sizes, Check::Strides, Check::Offsets}},
+};
+
+// When an array is serial.
+constexpr Codes matrices = "mam tam mat tat mama tama tata mata mma mta tma tta";
+constexpr Codes vectors = "vav vva vava vca vac vaca cva cav cava";
+constexpr Row<Thresholds> thresholds[] = {
+    //                                   contiguous   strided
+    {matrices, Layouts::S, Types::F32, {serialBelow(3000), serialBelow(2000)}},
+    {matrices, Layouts::S, Types::F64, {serialBelow(2000), serialBelow(2000)}},
+    {matrices, Layouts::LP, Types::Both, {serialBelow(2000), serialBelow(2000)}},
+    {vectors, Layouts::S, Types::F32, {serialUpTo(4800), serialUpTo(4800)}},
+    {vectors, Layouts::S, Types::F64, {serialUpTo(1400), serialUpTo(1400)}},
+    {vectors, Layouts::L, Types::Both, {serialUpTo(2500), serialUpTo(2500)}},
+    {vectors, Layouts::P, Types::Both, {serialBelow(1501), serialBelow(1501)}},
+};
+
+// The elements that a call reads and writes: those of arrays once for each object, those of single objects once.
+template <class M>
+Work workOf(int width, int height, int count) {
+    const Work perObject = Work(width) * height;
+    const auto operand = [&](Kind kind) {
+        return (kind.isConstant() ? Work(1) : perObject) * (kind.array ? count : 1);
+    };
+    // The thresholds of a constant with an array of vectors were tuned with its vectors counted once.
+    constexpr Kind first = M::code[0];
+    constexpr Kind second = M::code == "cva" ? Kind{Shape::Vector} : M::code[1];
+    return operand(first) + operand(second) + perObject * count;
+}
+
+} // namespace
+
+// An operation whose operands stand in the argument list in the other order.
+template <class Operation>
+struct Reversed {
+    template <class Number>
+    Number operator()(Number a, Number b) const {
+        return Operation()(b, a);
+    }
+};
+
+template <class Op, Code operands, class T, Layout memory>
+LxpStatus SumMember<Op, operands, T, memory>::run(const Arguments &arguments) {
+    if (const LxpStatus status = firstFailure<rowOf<SumMember, orders>>(arguments); status != lxpStatusOk) {
+        return status;
+    }
+    const auto &[first, second, destination, size, number] = arguments.parts;
+    const int width = size.width();
+    const int height = size.height();
+    const int count = number.value;
+
+    bool parallel = false;
+    if constexpr (isArray) {
+        const bool isContiguous = first.isContiguous() && second.isContiguous() && destination.isContiguous();
+        parallel = rowOf<SumMember, thresholds>.isParallel(workOf<SumMember>(width, height, count), isContiguous);
+    }
+    using Function = std::conditional_t<isReversed, Reversed<Operation>, Operation>;
+    return mapElements<T, Function, 2>(
+        Function(), parallel, count, height, width,
+        {destination.addresses(height, width), {first.addresses(height, width), second.addresses(height, width)}});
+}
+
+#define MEMBER(operation, code, type, layout, name)                                                                    \
+    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
+#define EXPORT_LIST "elementwise/add_sub.list.h"
+#include "runtime/exports.h"
+
+} // namespace lxpm

@@ -1,0 +1,343 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// The loops over the elements of a nest: dst = f(src1, ...). Which one is taken depends on how the operands move in the
+// innermost loop, the run:
+//
+//   in registers   the destination's elements touch, each source's touch or are all the same one. A run goes in whole
+//                  registers and its end in ever smaller pieces.
+//   transposed     as in registers, but some sources' elements touch down the columns (the middle loop): blocks of 4 by
+//                  4 elements are turned in registers.
+//   one by one     anything else.
+//
+// Nothing behind the last element of an operand is read or written.
+
+#include "elementwise/nest.h"
+#include "runtime/lanes.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
+namespace lxpm {
+
+// How a source moves along a run: its elements touch, or it is one element, or those of other runs touch, or anything.
+enum class Moves { Along, Nowhere, Across, Any };
+
+template <class T, class F, std::size_t sources>
+class Loops {
+public:
+    using Loop = void (*)(const F &, const Nest<T, sources> &);
+
+    [[gnu::noinline]] static Loop choose(const Nest<T, sources> &nest) {
+        bool inRegisters = true;
+        bool transposed = nest.isDisjoint;
+        for (const auto &source : nest.operand.src) {
+            const Moves moves = movesOf(source);
+            inRegisters &= moves == Moves::Along || moves == Moves::Nowhere;
+            transposed &= moves == Moves::Along || moves == Moves::Across;
+        }
+        const bool destinationTouches = nest.operand.dst.step[2] == sizeof(T);
+        return destinationTouches && inRegisters  ? chooseInRegisters<>(nest)
+               : destinationTouches && transposed ? chooseTransposed<>(nest)
+                                                  : chooseOneByOne(nest);
+    }
+
+private:
+    using Nest = lxpm::Nest<T, sources>;
+    using Index = std::make_index_sequence<sources>;
+
+    static Moves movesOf(const Addresses<const T> &source) {
+        if (source.step[2] == sizeof(T) || source.step[2] == 0) {
+            return source.step[2] == 0 ? Moves::Nowhere : Moves::Along;
+        }
+        return source.step[1] == sizeof(T) && source.pointerStep[1] == 0 ? Moves::Across : Moves::Any;
+    }
+
+    // One source along a run.
+    template <Moves moves>
+    struct Source {
+        const T *first;
+        std::ptrdiff_t step;
+
+        // N elements from the i-th on.
+        template <int N>
+        auto elements(std::ptrdiff_t i) const {
+            if constexpr (moves == Moves::Any || moves == Moves::Across) {
+                return *shifted(first, i * step);
+            } else if constexpr (N == 1) {
+                return moves == Moves::Along ? first[i] : *first;
+            } else if constexpr (moves == Moves::Along) {
+                return Lanes<T, N>::load(first + i);
+            } else {
+                return Lanes<T, N>::splat(*first);
+            }
+        }
+    };
+
+    // All runs. Rows, Length: the runs of the middle loop and the elements of a run where their numbers are known
+    // beforehand, else 0. What stands inside is forced inline: a call for each run would cost more than the run.
+    template <bool registers, int Rows, int Length, Moves... moves, std::size_t... s>
+    [[gnu::always_inline]] static void overRuns(const F &f, const Nest &shared, std::index_sequence<s...>) {
+        const Nest nest = shared; // a copy that no store below can reach, so that it stays in registers
+        const std::ptrdiff_t rows = Rows != 0 ? Rows : nest.extent[1];
+        const std::ptrdiff_t n = Length != 0 ? Length : nest.extent[2];
+        const auto &[dst, src] = nest.operand;
+        for (std::ptrdiff_t i = 0; i < nest.extent[0]; ++i) {
+            for (std::ptrdiff_t j = 0; j < rows; ++j) {
+                if constexpr (registers) {
+                    runInRegisters(f, n, dst.at(i, j, 0), Source<moves>{src[s].at(i, j, 0), src[s].step[2]}...);
+                } else {
+                    runOneByOne(f, n, dst.at(i, j, 0), dst.step[2],
+                                Source<moves>{src[s].at(i, j, 0), src[s].step[2]}...);
+                }
+            }
+        }
+    }
+
+    // In registers.
+
+    template <Moves... chosen>
+    static Loop chooseInRegisters(const Nest &nest) {
+        constexpr std::size_t source = sizeof...(chosen);
+        if constexpr (source == sources) {
+            return chooseLength<chosen...>(nest.extent[2]);
+        } else if (nest.operand.src[source].step[2] == 0) {
+            return chooseInRegisters<chosen..., Moves::Nowhere>(nest);
+        } else {
+            return chooseInRegisters<chosen..., Moves::Along>(nest);
+        }
+    }
+
+    // Vectors and rows of orders 3 to 6, and whole matrices of these orders whose rows touch, are unrolled.
+    template <Moves... moves>
+    static Loop chooseLength(std::ptrdiff_t n) {
+        switch (n) {
+        case 3:
+            return inRegisters<3, moves...>;
+        case 4:
+            return inRegisters<4, moves...>;
+        case 5:
+            return inRegisters<5, moves...>;
+        case 6:
+            return inRegisters<6, moves...>;
+        case 9:
+            return inRegisters<9, moves...>;
+        case 16:
+            return inRegisters<16, moves...>;
+        case 25:
+            return inRegisters<25, moves...>;
+        case 36:
+            return inRegisters<36, moves...>;
+        default:
+            return inRegisters<0, moves...>;
+        }
+    }
+
+    template <int Length, Moves... moves>
+    static void inRegisters(const F &f, const Nest &nest) {
+        overRuns<true, 0, Length, moves...>(f, nest, Index());
+    }
+
+    template <class... S>
+    [[gnu::always_inline]] static void runInRegisters(const F &f, std::ptrdiff_t n, T *dst, const S &...src) {
+        constexpr int full = fullLanes<T>;
+        std::ptrdiff_t i = 0;
+#pragma GCC unroll 4
+        for (; i + full <= n; i += full) {
+            f(src.template elements<full>(i)...).store(dst + i);
+        }
+        runInPieces<full / 2>(f, n, dst, i, src...);
+    }
+
+    // The elements from i on, fewer than 2 * N.
+    template <int N, class... S>
+    [[gnu::always_inline]] static void runInPieces(const F &f, std::ptrdiff_t n, T *dst, std::ptrdiff_t i,
+                                                   const S &...src) {
+        if constexpr (N == 1) {
+            if (i < n) {
+                dst[i] = f(src.template elements<1>(i)...);
+            }
+        } else {
+            if (i + N <= n) {
+                f(src.template elements<N>(i)...).store(dst + i);
+                i += N;
+            }
+            runInPieces<N / 2>(f, n, dst, i, src...);
+        }
+    }
+
+    // Transposed.
+
+    static constexpr int side = 4;                  // of a block
+    using Block = std::array<Lanes<T, side>, side>; // by rows
+
+    template <Moves... chosen>
+    static Loop chooseTransposed(const Nest &nest) {
+        constexpr std::size_t source = sizeof...(chosen);
+        if constexpr (source < sources) {
+            if (movesOf(nest.operand.src[source]) == Moves::Across) {
+                return chooseTransposed<chosen..., Moves::Across>(nest);
+            }
+            return chooseTransposed<chosen..., Moves::Along>(nest);
+        } else if constexpr (((chosen == Moves::Across) || ...)) {
+            return chooseOrder<chosen...>(nest);
+        } else {
+            return chooseInRegisters<>(nest);
+        }
+    }
+
+    template <Moves... moves>
+    static Loop chooseOrder(const Nest &nest) {
+        switch (nest.extent[1] == nest.extent[2] ? nest.extent[2] : 0) {
+        case 3:
+            return transposed<3, moves...>;
+        case 4:
+            return transposed<4, moves...>;
+        case 5:
+            return transposed<5, moves...>;
+        case 6:
+            return transposed<6, moves...>;
+        default:
+            return transposed<0, moves...>;
+        }
+    }
+
+    template <int Order, Moves... moves>
+    static void transposed(const F &f, const Nest &nest) {
+        overBlocks<Order, moves...>(f, nest, Index());
+    }
+
+    // Order: of square matrices where it is known beforehand, else 0.
+    template <int Order, Moves... moves, std::size_t... s>
+    [[gnu::always_inline]] static void overBlocks(const F &f, const Nest &shared, std::index_sequence<s...>) {
+        const Nest nest = shared;
+        const std::ptrdiff_t rows = Order != 0 ? Order : nest.extent[1];
+        const std::ptrdiff_t columns = Order != 0 ? Order : nest.extent[2];
+        const auto &[dst, src] = nest.operand;
+        for (std::ptrdiff_t i = 0; i < nest.extent[0]; ++i) {
+            T *const first = dst.at(i, 0, 0);
+            overOneMatrix<Order>(f, rows, columns, first, dst.step[1],
+                                 Matrix<moves>{src[s].at(i, 0, 0), src[s].step[1], src[s].step[2]}...);
+        }
+    }
+
+    // One matrix of a source, by blocks.
+    template <Moves moves>
+    struct Matrix {
+        const T *first;
+        std::ptrdiff_t rowStep;
+        std::ptrdiff_t columnStep;
+
+        template <int Rows, int Columns>
+        [[gnu::always_inline]] Block block(std::ptrdiff_t row, std::ptrdiff_t column) const {
+            Block lanes = {};
+            if constexpr (moves == Moves::Along) {
+#pragma GCC unroll 4
+                for (int i = 0; i < Rows; ++i) {
+                    lanes[i] = loadFirst<Columns>(shifted(first, (row + i) * rowStep) + column);
+                }
+            } else {
+#pragma GCC unroll 4
+                for (int j = 0; j < Columns; ++j) {
+                    lanes[j] = loadFirst<Rows>(shifted(first, (column + j) * columnStep) + row);
+                }
+                transpose(lanes);
+            }
+            return lanes;
+        }
+    };
+
+    template <int Order, class... M>
+    [[gnu::always_inline]] static void overOneMatrix(const F &f, std::ptrdiff_t rows, std::ptrdiff_t columns, T *dst,
+                                                     std::ptrdiff_t dstStep, const M &...src) {
+        std::ptrdiff_t row = 0;
+        for (; row + side <= rows; row += side) {
+            overStrip<side>(f, row, columns, dst, dstStep, src...);
+        }
+        const auto left = rows - row;
+        if (left == 1) {
+            overStrip<1>(f, row, columns, dst, dstStep, src...);
+        } else if (left == 2) {
+            overStrip<2>(f, row, columns, dst, dstStep, src...);
+        } else if (left == 3) {
+            overStrip<3>(f, row, columns, dst, dstStep, src...);
+        }
+    }
+
+    // Some rows from `row` on.
+    template <int Rows, class... M>
+    [[gnu::always_inline]] static void overStrip(const F &f, std::ptrdiff_t row, std::ptrdiff_t columns, T *dst,
+                                                 std::ptrdiff_t dstStep, const M &...src) {
+        std::ptrdiff_t column = 0;
+        for (; column + side <= columns; column += side) {
+            overBlock<Rows, side>(f, row, column, dst, dstStep, src...);
+        }
+        const auto left = columns - column;
+        if (left == 1) {
+            overBlock<Rows, 1>(f, row, column, dst, dstStep, src...);
+        } else if (left == 2) {
+            overBlock<Rows, 2>(f, row, column, dst, dstStep, src...);
+        } else if (left == 3) {
+            overBlock<Rows, 3>(f, row, column, dst, dstStep, src...);
+        }
+    }
+
+    template <int Rows, int Columns, class... M>
+    [[gnu::always_inline]] static void overBlock(const F &f, std::ptrdiff_t row, std::ptrdiff_t column, T *dst,
+                                                 std::ptrdiff_t dstStep, const M &...src) {
+        storeBlock<Rows, Columns>(f, shifted(dst, row * dstStep) + column, dstStep,
+                                  src.template block<Rows, Columns>(row, column)...);
+    }
+
+    template <int Rows, int Columns, class... B>
+    [[gnu::always_inline]] static void storeBlock(const F &f, T *dst, std::ptrdiff_t dstStep, const B &...block) {
+#pragma GCC unroll 4
+        for (int i = 0; i < Rows; ++i) {
+            storeFirst<Columns>(shifted(dst, i * dstStep), f(block[i]...));
+        }
+    }
+
+    // One by one.
+
+    static Loop chooseOneByOne(const Nest &nest) {
+        switch (nest.extent[2]) {
+        case 3:
+            return chooseSquare<3>(nest);
+        case 4:
+            return chooseSquare<4>(nest);
+        case 5:
+            return chooseSquare<5>(nest);
+        case 6:
+            return chooseSquare<6>(nest);
+        default:
+            return oneByOne<0, 0>;
+        }
+    }
+
+    template <int N>
+    static Loop chooseSquare(const Nest &nest) {
+        return nest.extent[1] == N ? oneByOne<N, N> : oneByOne<0, N>;
+    }
+
+    template <int Rows, int Length>
+    static void oneByOne(const F &f, const Nest &nest) {
+        if constexpr (sources == 1) {
+            overRuns<false, Rows, Length, Moves::Any>(f, nest, Index());
+        } else {
+            overRuns<false, Rows, Length, Moves::Any, Moves::Any>(f, nest, Index());
+        }
+    }
+
+    template <class... S>
+    [[gnu::always_inline]] static void runOneByOne(const F &f, std::ptrdiff_t n, T *dst, std::ptrdiff_t step,
+                                                   const S &...src) {
+        for (std::ptrdiff_t i = 0; i < n; ++i) {
+            *shifted(dst, i * step) = f(src.template elements<1>(i)...);
+        }
+    }
+};
+
+} // namespace lxpm

@@ -1,0 +1,134 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// The kernel of the element-wise families: dst(k, i, j) = f(src1(k, i, j), ...) over the objects, rows and columns of a
+// call, in every layout, on one thread or on many. An element passes through the same function on every path, alone or
+// as a lane, so all paths give the same bits.
+
+#include "elementwise/loops.h"
+#include "elementwise/nest.h"
+#include "runtime/parallel.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <numeric>
+
+namespace lxpm {
+
+// Where the objects of an element-pointer layout stand apart, the runs of all their elements pass through the same
+// cache lines. They are taken in pieces that leave these lines in the first cache.
+template <class T, class F, std::size_t sources>
+void mapScattered(const F &f, Nest<T, sources> nest) {
+    constexpr std::ptrdiff_t piece = 128;
+    const std::ptrdiff_t n = nest.extent[2];
+    for (std::ptrdiff_t done = 0; done < n; done += piece) {
+        nest.extent[2] = std::min(piece, n - done);
+        Loops<T, F, sources>::choose(nest)(f, nest);
+        nest.advance(2, piece);
+    }
+}
+
+// The objects of an array whose elements all touch make one long run, but not together with a single object that is
+// used with each of them: there, each small object would end in scraps of registers. So the single object is written
+// side by side until it fills whole registers, and used with that many objects at a time.
+template <class T, std::size_t sources>
+class Tiling {
+public:
+    static constexpr std::size_t none = sources;
+
+    // The source that is to be tiled, or none.
+    static std::size_t sourceOf(const Nest<T, sources> &nest) {
+        const std::ptrdiff_t n = nest.extent[2];
+        const std::ptrdiff_t objects = nest.extent[1];
+        if (objects < enough || n > largestObject || nest.extent[0] != 1 || nest.operand.movesThroughPointers(1) ||
+            !touches(nest.operand.dst, n)) {
+            return none;
+        }
+        std::size_t single = none;
+        for (std::size_t s = 0; s < sources; ++s) {
+            const auto &source = nest.operand.src[s];
+            const bool isConstant = source.step[2] == 0 && source.step[1] == 0;
+            if (touches(source, n) || isConstant) {
+                continue;
+            }
+            if (single != none || source.step[2] != sizeof(T) || source.step[1] != 0) {
+                return none;
+            }
+            single = s;
+        }
+        return single;
+    }
+
+    template <class F>
+    static void map(const F &f, Nest<T, sources> nest, std::size_t tiled) {
+        using Loops = lxpm::Loops<T, F, sources>;
+        const std::ptrdiff_t n = nest.extent[2];
+        const std::ptrdiff_t objects = nest.extent[1];
+        const std::ptrdiff_t objectsPerTile = objectsFor(n);
+
+        T tile[largestObject * fullLanes<T> + shortestTile];
+        Addresses<const T> &source = nest.operand.src[tiled];
+        const T *object = source.at(0, 0, 0);
+        for (std::ptrdiff_t i = 0; i < objectsPerTile; ++i) {
+            std::copy_n(object, n, tile + i * n);
+        }
+        nest.scaleSteps(1, objectsPerTile);
+        source = Addresses<const T>::strided(tile, {0, 0, sizeof(T)});
+
+        nest.extent = {1, objects / objectsPerTile, objectsPerTile * n};
+        Loops::choose(nest)(f, nest);
+
+        nest.advance(1, nest.extent[1]);
+        nest.extent = {1, 1, objects % objectsPerTile * n};
+        Loops::choose(nest)(f, nest);
+    }
+
+private:
+    static constexpr std::ptrdiff_t enough = 32;        // objects, for the tile to pay
+    static constexpr std::ptrdiff_t largestObject = 64; // elements; in larger ones the scraps do not matter
+    static constexpr std::ptrdiff_t shortestTile = 64;  // elements; with shorter ones the time goes between the runs
+
+    template <class E>
+    static bool touches(const Addresses<E> &operand, std::ptrdiff_t n) {
+        return operand.step[2] == sizeof(T) && operand.step[1] == n * operand.step[2];
+    }
+
+    static std::ptrdiff_t objectsFor(std::ptrdiff_t n) {
+        const std::ptrdiff_t wholeRegisters = fullLanes<T> / std::gcd(n, static_cast<std::ptrdiff_t>(fullLanes<T>));
+        const std::ptrdiff_t wanted = (shortestTile + n - 1) / n;
+        return (wanted + wholeRegisters - 1) / wholeRegisters * wholeRegisters;
+    }
+};
+
+// The objects of one thread.
+template <class T, class F, std::size_t sources>
+void mapObjects(const F &f, const Extents &extents, const MapOperands<T, sources> &operands) {
+    constexpr std::ptrdiff_t fewElements = 64; // of a single object: not worth a look at its memory
+    Nest<T, sources> nest(extents, operands);
+    if (extents.objects == 1 && extents.rows * extents.columns <= fewElements && !operands.movesThroughPointers(2)) {
+        nest.isDisjoint = false;
+        Loops<T, F, sources>::choose(nest)(f, nest);
+        return;
+    }
+    nest.arrange();
+    if (nest.operand.movesThroughPointers(1) && nest.operand.dst.step[2] != sizeof(T)) {
+        mapScattered(f, nest);
+    } else if (const std::size_t tiled = Tiling<T, sources>::sourceOf(nest); tiled != Tiling<T, sources>::none) {
+        Tiling<T, sources>::map(f, nest, tiled);
+    } else {
+        Loops<T, F, sources>::choose(nest)(f, nest);
+    }
+}
+
+// All objects of a call. Kept out of line: one for each function and type, not one for each member of a family.
+template <class T, class F, std::size_t sources>
+[[gnu::noinline]] LxpStatus mapElements(const F &f, bool parallel, int count, int rows, int columns,
+                                        const MapOperands<T, sources> &operands) {
+    return overObjects(parallel, count, [&](int first, int objects) {
+        mapObjects(f, {objects, rows, columns}, operands.from(first));
+        return lxpStatusOk;
+    });
+}
+
+} // namespace lxpm

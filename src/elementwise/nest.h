@@ -1,0 +1,161 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// The loops over the objects, rows and columns of a call, nested as its memory likes best. An element of an
+// element-wise operation depends on its sources alone, so the loops may be exchanged and merged.
+
+#include "runtime/addresses.h"
+
+#include <array>
+#include <cstddef>
+#include <utility>
+
+namespace lxpm {
+
+// The loops of a call in their natural order.
+struct Extents {
+    std::ptrdiff_t objects;
+    std::ptrdiff_t rows;
+    std::ptrdiff_t columns;
+};
+
+// The operands of an element-wise call, a destination and its sources.
+template <class T, std::size_t sources>
+struct MapOperands {
+    Addresses<T> dst;
+    std::array<Addresses<const T>, sources> src;
+
+    // The same operands without what stands before element (row, column) of `object`.
+    MapOperands from(std::ptrdiff_t object, std::ptrdiff_t row = 0, std::ptrdiff_t column = 0) const {
+        MapOperands later = {dst.from(object, row, column), src};
+        for (auto &source : later.src) {
+            source = source.from(object, row, column);
+        }
+        return later;
+    }
+
+    bool movesThroughPointers(int loop) const {
+        bool any = dst.pointerStep[loop] != 0;
+        for (const auto &source : src) {
+            any |= source.pointerStep[loop] != 0;
+        }
+        return any;
+    }
+};
+
+// Three loops, the outermost first, and the operands with their steps in the same order. When arranged, the innermost
+// loop moves by bytes alone; loops that a call does not need take one step and stand outside.
+template <class T, std::size_t sources>
+struct Nest {
+    std::array<std::ptrdiff_t, 3> extent;
+    MapOperands<T, sources> operand;
+    bool isDisjoint = true; // no element of the destination stands on another
+
+    // In natural order.
+    Nest(const Extents &loops, const MapOperands<T, sources> &operands)
+        : extent{loops.objects, loops.rows, loops.columns}, operand(operands) {}
+
+    // Nests the loops as the memory likes best.
+    void arrange() {
+        for (int loop = 0; loop < 3; ++loop) {
+            if (extent[loop] == 1) {
+                forEachOperand([loop](auto &o) { o.step[loop] = o.pointerStep[loop] = 0; });
+            }
+        }
+        sort([](const Nest &nest, int loop) { return nest.rank(loop); });
+        isDisjoint = destinationIsDisjoint();
+        // Innermost the loop in which the destination's elements stand closest. But where elements of the destination
+        // stand on one another the order stays, so that the one written last is the last in natural order.
+        if (isDisjoint) {
+            sort([](const Nest &nest, int loop) { return nest.rank(loop) - nest.operand.dst.step[loop]; });
+        }
+        merge(2);
+        merge(2);
+        merge(1);
+        if (operand.movesThroughPointers(2)) { // no loop by bytes: the one of a single step becomes the innermost
+            exchange(0, 1);
+            exchange(1, 2);
+        }
+    }
+
+    // Begins n steps of a loop later.
+    void advance(int loop, std::ptrdiff_t n) {
+        forEachOperand([=](auto &o) { o.offset += n * o.step[loop]; });
+    }
+
+    // Takes n steps of a loop at a time.
+    void scaleSteps(int loop, std::ptrdiff_t n) {
+        forEachOperand([=](auto &o) { o.step[loop] *= n; });
+    }
+
+private:
+    template <class F>
+    void forEachOperand(const F &f) {
+        f(operand.dst);
+        for (auto &source : operand.src) {
+            f(source);
+        }
+    }
+
+    // Loops of a single step stand outermost, then those through pointers, then those by bytes.
+    std::ptrdiff_t rank(int loop) const {
+        constexpr std::ptrdiff_t beyondAnyStep = std::ptrdiff_t(1) << 40;
+        return extent[loop] == 1 ? 0 : operand.movesThroughPointers(loop) ? beyondAnyStep : 3 * beyondAnyStep;
+    }
+
+    void exchange(int a, int b) {
+        std::swap(extent[a], extent[b]);
+        forEachOperand([a, b](auto &o) {
+            std::swap(o.step[a], o.step[b]);
+            std::swap(o.pointerStep[a], o.pointerStep[b]);
+        });
+    }
+
+    // Three loops in the order of their keys, equal ones as they stand.
+    template <class Key>
+    void sort(const Key &key) {
+        for (const int outer : {0, 1, 0}) {
+            if (key(*this, outer + 1) < key(*this, outer)) {
+                exchange(outer, outer + 1);
+            }
+        }
+    }
+
+    // Whether each loop's steps of the destination lead beyond all that the loops closer together reach.
+    bool destinationIsDisjoint() const {
+        std::array<std::pair<std::ptrdiff_t, std::ptrdiff_t>, 3> loops; // step, reach
+        for (int loop = 0; loop < 3; ++loop) {
+            loops[loop] = {operand.dst.step[loop], operand.dst.step[loop] * (extent[loop] - 1)};
+        }
+        for (const int at : {0, 1, 0}) {
+            if (loops[at + 1].first < loops[at].first) {
+                std::swap(loops[at], loops[at + 1]);
+            }
+        }
+        const std::ptrdiff_t closest = loops[0].second;
+        return (loops[1].second == 0 || loops[1].first > closest) &&
+               (loops[2].second == 0 || loops[2].first > closest + loops[1].second);
+    }
+
+    // A loop and the one outside of it become one where the outer goes on where the inner ends, for every operand.
+    void merge(int inner) {
+        const int outer = inner - 1;
+        bool goesOn = extent[outer] > 1;
+        forEachOperand([&](auto &o) {
+            goesOn &= o.step[outer] == o.step[inner] * extent[inner] &&
+                      o.pointerStep[outer] == o.pointerStep[inner] * extent[inner];
+        });
+        if (!goesOn) {
+            return;
+        }
+        extent[inner] *= extent[outer];
+        extent[outer] = 1;
+        forEachOperand([outer](auto &o) { o.step[outer] = o.pointerStep[outer] = 0; });
+        if (outer == 1) {
+            exchange(0, 1);
+        }
+    }
+};
+
+} // namespace lxpm

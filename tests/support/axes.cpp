@@ -1,0 +1,74 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "support/axes.h"
+
+#include <initializer_list>
+
+namespace lxpm::test {
+
+namespace {
+
+std::vector<Shape> join(std::initializer_list<std::vector<Shape>> groups) {
+    std::vector<Shape> all;
+    for (const std::vector<Shape> &group : groups) {
+        all.insert(all.end(), group.begin(), group.end());
+    }
+    return all;
+}
+
+std::vector<Shape> lengths(int first, int last) {
+    std::vector<Shape> all;
+    for (int length = first; length <= last; ++length) {
+        all.push_back({length});
+    }
+    return all;
+}
+
+std::vector<Shape> squares(int first, int last) {
+    std::vector<Shape> all;
+    for (int order = first; order <= last; ++order) {
+        all.push_back({order, order});
+    }
+    return all;
+}
+
+// One row and one column: loops that run once, and remainders without a whole register.
+const std::vector<Shape> rowsAndColumns = {{2, 1}, {5, 1}, {8, 1}, {9, 1}, {17, 1}, {31, 1},
+                                           {1, 2}, {1, 5}, {1, 8}, {1, 9}, {1, 17}};
+
+// Transposed reading mixes up width and height unless it is right.
+const std::vector<Shape> rectangles = {{3, 4}, {4, 3}, {5, 2}, {2, 5}, {7, 3},  {3, 7},  {6, 4},   {4, 6},
+                                       {8, 3}, {3, 8}, {9, 4}, {4, 9}, {2, 16}, {16, 2}, {13, 11}, {11, 13}};
+
+// Rows of one, two and four registers, without and with a remainder.
+const std::vector<Shape> wideSquares = {{12, 12}, {16, 16}, {17, 17}, {31, 31}, {33, 33}};
+
+// Orders 3 to 6 have unrolled code; their neighbours must not take it, nor a matrix of which one side fits.
+const std::vector<Shape> aroundUnrolled = join({squares(1, 7), {{3, 4}, {4, 3}, {6, 5}}});
+
+} // namespace
+
+const SizeAxes matrixSizes = {
+    .all = join({squares(1, 9), rowsAndColumns, rectangles, wideSquares}),
+    .small = aroundUnrolled,
+    // Every remainder of a row, every number of rows that a block could have.
+    .tight = join({squares(1, 9), rowsAndColumns, rectangles, {{12, 12}, {17, 17}, {15, 3}, {23, 2}, {3, 23}}}),
+};
+
+const SizeAxes vectorSizes = {
+    // Up to four registers of either type with every remainder; then lengths around larger blocks.
+    .all = join({lengths(1, 33), {{63}, {64}, {65}, {100}, {129}}}),
+    .small = join({lengths(1, 9), {{16}, {17}}}),
+    .tight = join({lengths(1, 40), {{63}, {64}, {65}}}),
+};
+
+std::span<const int> countsOf(const Model &model) {
+    // One object; fewer than the lanes of a register of either type; exactly as many; one more; two registers of
+    // lanes and a remainder; many.
+    static constexpr int ofArrays[] = {1, 2, 3, 7, 8, 9, 17, 100};
+    static constexpr int ofSingles[] = {1};
+    return model.hasCount ? std::span<const int>(ofArrays) : std::span<const int>(ofSingles);
+}
+
+} // namespace lxpm::test

@@ -1,0 +1,26 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+// The values that sizes and counts take in tests, each group with its reason.
+
+#ifndef LXPM_TESTS_SUPPORT_AXES_H
+#define LXPM_TESTS_SUPPORT_AXES_H
+
+#include "support/model.h"
+
+#include <span>
+
+namespace lxpm::test {
+
+/// Shape {width, height}.
+extern const SizeAxes matrixSizes;
+
+/// Shape {len}.
+extern const SizeAxes vectorSizes;
+
+/// The number of objects in an array; {1} for an export without arrays.
+std::span<const int> countsOf(const Model &model);
+
+} // namespace lxpm::test
+
+#endif

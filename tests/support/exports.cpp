@@ -1,0 +1,92 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "support/exports.h"
+
+#include "elementwise/add_sub.h"
+
+#include <lxpm.h>
+
+#include <stdexcept>
+#include <string_view>
+
+namespace lxpm::test {
+
+namespace {
+
+struct Family {
+    std::string_view operation;
+    Model (*describe)(const ExportName &name);
+};
+
+// A new family: its lines in the list of exports, its description, and a line here.
+constexpr Family families[] = {
+    {"Add", describeAddSub},
+    {"Sub", describeAddSub},
+};
+
+Model describe(const ExportName &name) {
+    for (const Family &family : families) {
+        if (family.operation == name.operation) {
+            return family.describe(name);
+        }
+    }
+    throw std::logic_error("no family describes " + name.name);
+}
+
+ElementType typeFromText(std::string_view text) {
+    return text == "32f" ? ElementType::Float32 : ElementType::Float64;
+}
+
+Layout layoutFromText(std::string_view text) {
+    return text == "S" ? Layout::Strided : text == "L" ? Layout::ObjectPointers : Layout::ElementPointers;
+}
+
+} // namespace
+
+const std::vector<Export> &familyExports() {
+    static const std::vector<Export> exports = [] {
+        std::vector<Export> list;
+#define MEMBER(operation, code, type, layout, name)                                                                    \
+    list.push_back(                                                                                                    \
+        {describe({#name, #operation, #code, typeFromText(#type), layoutFromText(#layout)}), Callable(&name)});
+#define EXPORT(name)
+#include "runtime/exports.h"
+        return list;
+    }();
+    return exports;
+}
+
+const std::vector<std::string> &exportNames() {
+    static const std::vector<std::string> names = {
+#define MEMBER(operation, code, type, layout, name) #name,
+#define EXPORT(name) #name,
+#include "runtime/exports.h"
+    };
+    return names;
+}
+
+const Export &findExport(const std::string &name) {
+    for (const Export &item : familyExports()) {
+        if (item.model.name == name) {
+            return item;
+        }
+    }
+    throw std::logic_error("no export is called " + name);
+}
+
+std::vector<const Export *> exportsThat(const std::function<bool(const Model &)> &condition) {
+    std::vector<const Export *> selected;
+    for (const Export &item : familyExports()) {
+        if (condition(item.model)) {
+            selected.push_back(&item);
+        }
+    }
+    return selected;
+}
+
+void PrintTo(const Export *item, std::ostream *stream) {
+    *stream << item->model.name;
+}
+
+} // namespace lxpm::test

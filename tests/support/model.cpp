@@ -1,0 +1,120 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "support/model.h"
+
+namespace lxpm::test {
+
+Form formOf(const Operand &operand, Layout layout) {
+    if (operand.kind == Kind::Constant && !operand.isArray) {
+        return Form::ByValue;
+    }
+    switch (layout) {
+    case Layout::ObjectPointers:
+        return operand.isArray ? Form::ObjectPointers : Form::Strided;
+    case Layout::ElementPointers:
+        return operand.kind == Kind::Constant ? Form::Strided : Form::ElementPointers;
+    case Layout::Strided:
+        break;
+    }
+    return Form::Strided;
+}
+
+bool hasRowStride(const Operand &operand, Form form) {
+    const bool isMatrix = operand.kind == Kind::Matrix || operand.kind == Kind::Transposed;
+    return isMatrix && (form == Form::Strided || form == Form::ObjectPointers);
+}
+
+bool hasElementStride(const Operand &operand, Form form) {
+    return operand.kind != Kind::Constant && (form == Form::Strided || form == Form::ObjectPointers);
+}
+
+LxpStatus statusOf(Check check) {
+    switch (check) {
+    case Check::Pointers:
+        return lxpStatusNullPtrErr;
+    case Check::Count:
+        return lxpStatusCountErr;
+    case Check::Sizes:
+        return lxpStatusSizeErr;
+    case Check::Strides:
+        return lxpStatusStrideErr;
+    case Check::Offsets:
+        return lxpStatusRoiShiftErr;
+    }
+    return lxpStatusOk;
+}
+
+std::optional<Check> checkOf(ParameterKind kind) {
+    switch (kind) {
+    case ParameterKind::Pointer:
+        return Check::Pointers;
+    case ParameterKind::Stride:
+        return Check::Strides;
+    case ParameterKind::Offset:
+        return Check::Offsets;
+    case ParameterKind::Size:
+        return Check::Sizes;
+    case ParameterKind::Count:
+        return Check::Count;
+    case ParameterKind::Value:
+        break;
+    }
+    return std::nullopt;
+}
+
+bool Model::mayBeInPlace(int source) const {
+    const Operand &from = operands[source];
+    const Operand &to = operands.back();
+    return !from.isWritten && from.kind == to.kind && from.isArray == to.isArray && from.rows == to.rows &&
+           from.columns == to.columns;
+}
+
+std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, ElementType type) {
+    const std::string element = type == ElementType::Float32 ? "float" : "double";
+    const std::string pointee = (operand.isWritten ? "" : "const ") + element;
+    const Form form = formOf(operand, layout);
+
+    std::vector<Parameter> parameters;
+    switch (form) {
+    case Form::ByValue:
+        parameters.push_back({element, operand.role, ParameterKind::Value});
+        break;
+    case Form::Strided:
+        parameters.push_back({pointee + " *", operand.role, ParameterKind::Pointer});
+        break;
+    case Form::ObjectPointers:
+    case Form::ElementPointers:
+        parameters.push_back({pointee + " *const *", operand.role + "Ptrs", ParameterKind::Pointer});
+        parameters.push_back({"int", operand.role + "PtrOffset", ParameterKind::Offset});
+        break;
+    }
+    if (operand.isArray && form != Form::ObjectPointers) {
+        parameters.push_back({"int", operand.role + "ObjStride", ParameterKind::Stride});
+    }
+    if (hasRowStride(operand, form)) {
+        parameters.push_back({"int", operand.role + "RowStride", ParameterKind::Stride});
+    }
+    if (hasElementStride(operand, form)) {
+        parameters.push_back({"int", operand.role + "ElemStride", ParameterKind::Stride});
+    }
+    return parameters;
+}
+
+std::vector<Parameter> parametersOf(const Model &model) {
+    std::vector<Parameter> parameters;
+    for (const Operand &operand : model.operands) {
+        for (Parameter &parameter : parametersOf(operand, model.layout, model.type)) {
+            parameters.push_back(std::move(parameter));
+        }
+    }
+    for (const std::string &size : model.sizes) {
+        parameters.push_back({"int", size, ParameterKind::Size});
+    }
+    if (model.hasCount) {
+        parameters.push_back({"int", "count", ParameterKind::Count});
+    }
+    return parameters;
+}
+
+} // namespace lxpm::test

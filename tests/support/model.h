@@ -1,0 +1,136 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+// What the tests know about an export: its operands, the parameters they contribute, its order of checks, its choice
+// between serial and parallel, and its formula. It is written down again from the documented contract and shares
+// nothing with the library, so that the two cannot be wrong together.
+
+#ifndef LXPM_TESTS_SUPPORT_MODEL_H
+#define LXPM_TESTS_SUPPORT_MODEL_H
+
+#include <lxp/status.h>
+
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace lxpm::test {
+
+template <class T>
+class Elements;
+
+enum class ElementType { Float32, Float64 };
+enum class Layout { Strided, ObjectPointers, ElementPointers };
+
+constexpr int sizeOf(ElementType type) {
+    return type == ElementType::Float32 ? 4 : 8;
+}
+
+/// The values of an export's size parameters, in the order of its argument list.
+using Shape = std::vector<int>;
+
+enum class Kind { Matrix, Transposed, Vector, Constant };
+
+/// An operand of an export, whatever the layout. `rows` and `columns` are those of the logical object, given as
+/// positions in the export's list of sizes.
+struct Operand {
+    static constexpr int one = -1;
+
+    std::string role;
+    Kind kind;
+    bool isArray;
+    bool isWritten;
+    int rows;
+    int columns;
+
+    int rowsOf(const Shape &shape) const { return rows == one ? 1 : shape[rows]; }
+    int columnsOf(const Shape &shape) const { return columns == one ? 1 : shape[columns]; }
+};
+
+/// How the parameters of an operand describe it. A layout does not touch all operands: a single object keeps its
+/// strides among object pointers, an array of constants keeps them among element pointers.
+enum class Form { ByValue, Strided, ObjectPointers, ElementPointers };
+
+Form formOf(const Operand &operand, Layout layout);
+
+/// Whether an operand described in this form has a row stride, an element stride.
+bool hasRowStride(const Operand &operand, Form form);
+bool hasElementStride(const Operand &operand, Form form);
+
+enum class ParameterKind { Value, Pointer, Stride, Offset, Size, Count };
+
+struct Parameter {
+    std::string type; // as C++ spells it: "const float *const *"
+    std::string name;
+    ParameterKind kind;
+};
+
+enum class Check { Pointers, Count, Sizes, Strides, Offsets };
+
+LxpStatus statusOf(Check check);
+
+/// The check that looks at a parameter; none looks at a value.
+std::optional<Check> checkOf(ParameterKind kind);
+
+/// When a call is handed to the parallel kernel: from the first parallel measure upwards. The measure is a signed
+/// 32-bit number that wraps.
+struct ParallelRule {
+    std::function<int(const Shape &shape, int count)> measure;
+    int firstParallelContiguous; // every element stride of the call is the element size
+    int firstParallelStrided;
+
+    bool isParallel(const Shape &shape, int count, bool isContiguous) const {
+        return measure(shape, count) >= (isContiguous ? firstParallelContiguous : firstParallelStrided);
+    }
+};
+
+/// What a call should leave in the destination, one object at a time; operands in the order of the argument list.
+struct Formula {
+    std::function<void(std::span<const Elements<float>> operands)> in32f;
+    std::function<void(std::span<const Elements<double>> operands)> in64f;
+};
+
+template <class Function>
+Formula formula(Function function) {
+    return {function, function};
+}
+
+/// The values that the size parameters take in tests.
+struct SizeAxes {
+    std::vector<Shape> all;
+    std::vector<Shape> small; // those that meet every stride pattern and every count
+    std::vector<Shape> tight; // those that are laid against guard pages
+};
+
+struct ExportName {
+    std::string name; // lxpmAdd_mam_32f_L
+    std::string operation;
+    std::string code;
+    ElementType type;
+    Layout layout;
+};
+
+struct Model : ExportName {
+    std::vector<Operand> operands; // in the order of the argument list, the destination last
+    std::vector<std::string> sizes;
+    bool hasCount;
+    std::vector<Check> order;
+    std::optional<ParallelRule> parallel; // none: always serial
+    Formula formula;
+    const SizeAxes *axes;
+
+    /// A destination may be the very memory of a source of the same shape that is not read transposed.
+    bool mayBeInPlace(int source) const;
+};
+
+/// The parameters that an operand contributes, in order.
+std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, ElementType type);
+
+/// The whole argument list.
+std::vector<Parameter> parametersOf(const Model &model);
+
+} // namespace lxpm::test
+
+#endif
