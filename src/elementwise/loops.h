@@ -193,13 +193,15 @@ private:
     static Loop chooseOrder(const Nest &nest) {
         switch (nest.extent[1] == nest.extent[2] ? nest.extent[2] : 0) {
         case 3:
-            return transposed<3, moves...>;
+            return isDense3(nest) ? dense3<moves...> : transposed<3, moves...>;
         case 4:
             return transposed<4, moves...>;
         case 5:
             return transposed<5, moves...>;
         case 6:
             return transposed<6, moves...>;
+        case 8:
+            return transposed<8, moves...>;
         default:
             return transposed<0, moves...>;
         }
@@ -208,6 +210,49 @@ private:
     template <int Order, Moves... moves>
     static void transposed(const F &f, const Nest &nest) {
         overBlocks<Order, moves...>(f, nest, Index());
+    }
+
+    // 3x3 matrices whose elements all touch have rows too short for registers; they go as runs of nine elements.
+
+    static bool isDense3(const Nest &nest) {
+        constexpr std::ptrdiff_t row = 3 * sizeof(T);
+        bool isDense = nest.operand.dst.step[1] == row;
+        for (const auto &source : nest.operand.src) {
+            isDense &= source.step[1] == row || source.step[2] == row;
+        }
+        return isDense;
+    }
+
+    template <Moves... moves>
+    static void dense3(const F &f, const Nest &nest) {
+        overDense3<moves...>(f, nest, Index());
+    }
+
+    template <Moves... moves, std::size_t... s>
+    [[gnu::always_inline]] static void overDense3(const F &f, const Nest &shared, std::index_sequence<s...>) {
+        const Nest nest = shared;
+        const auto &[dst, src] = nest.operand;
+        for (std::ptrdiff_t i = 0; i < nest.extent[0]; ++i) {
+            storeDense3(f, dst.at(i, 0, 0), Dense3(src[s].at(i, 0, 0), moves)...);
+        }
+    }
+
+    struct Dense3 {
+        std::array<Lanes<T, 4>, 2> fours;
+        T ninth;
+
+        [[gnu::always_inline]] Dense3(const T *matrix, Moves moves)
+            : fours(moves == Moves::Across
+                        ? transposeDense3(matrix)
+                        : std::array<Lanes<T, 4>, 2>{Lanes<T, 4>::load(matrix), Lanes<T, 4>::load(matrix + 4)}),
+              ninth(matrix[8]) {}
+    };
+
+    template <class... D>
+    [[gnu::always_inline]] static void storeDense3(const F &f, T *dst, const D &...src) {
+        f(src.fours[0]...).store(dst);
+        f(src.fours[1]...).store(dst + 4);
+        dst[8] = f(src.ninth...);
     }
 
     // Order: of square matrices where it is known beforehand, else 0.

@@ -120,4 +120,22 @@ inline void transpose(std::array<Lanes<double, 4>, 4> &r) {
     r[3].vector = _mm256_permute2f128_pd(odd01, odd23, 0x31);            // 03 13 | 23 33
 }
 
+// The first eight elements, by rows, of the transpose of a 3x3 matrix whose elements all touch; the ninth stays. The
+// comments give the places of the elements in memory.
+inline std::array<Lanes<float, 4>, 2> transposeDense3(const float *matrix) {
+    const __m128 a = _mm_loadu_ps(matrix);                                               // 0 1 2 3
+    const __m128 b = _mm_loadu_ps(matrix + 4);                                           // 4 5 6 7
+    return {{{_mm_shuffle_ps(a, _mm_blend_ps(b, a, 0b0010), _MM_SHUFFLE(1, 2, 3, 0))},   // 0 3 6 1
+             {_mm_shuffle_ps(b, _mm_blend_ps(a, b, 0b0010), _MM_SHUFFLE(1, 2, 3, 0))}}}; // 4 7 2 5
+}
+
+inline std::array<Lanes<double, 4>, 2> transposeDense3(const double *matrix) {
+    const __m128d a = _mm_loadu_pd(matrix);                                                // 0 1
+    const __m128d b = _mm_loadu_pd(matrix + 2);                                            // 2 3
+    const __m128d c = _mm_loadu_pd(matrix + 4);                                            // 4 5
+    const __m128d d = _mm_loadu_pd(matrix + 6);                                            // 6 7
+    return {{{_mm256_set_m128d(_mm_shuffle_pd(d, a, 0b10), _mm_shuffle_pd(a, b, 0b10))},   // 0 3 | 6 1
+             {_mm256_set_m128d(_mm_shuffle_pd(b, c, 0b10), _mm_shuffle_pd(c, d, 0b10))}}}; // 4 7 | 2 5
+}
+
 } // namespace lxpm

@@ -33,21 +33,16 @@ constexpr std::array specialValues = {
     SpecialValue{0x7f800789, 0x7ff0000000000789}, // a signalling NaN: comes out quiet
 };
 
-// The unrolled orders, and rows with a remainder of every length.
-const std::vector<Shape> matrices = {{3, 3}, {4, 4}, {5, 5}, {6, 6}, {7, 2}};
-const std::vector<Shape> vectors = {{1}, {3}, {5}, {7}, {9}, {15}, {31}};
-
 } // namespace
 
 Report checkSpecialValues(const Export &item) {
     Report report;
     setThreadCount(1);
     const Model &model = item.model;
-    const bool isMatrix = model.sizes.size() == 2;
     // A register of lanes and a remainder.
     const int count = model.hasCount ? 9 : 1;
     constexpr std::size_t values = specialValues.size();
-    for (const Shape &shape : isMatrix ? matrices : vectors) {
+    for (const Shape &shape : model.axes->special) {
         for (const unsigned gapped : {0u, ~0u}) {
             Call call(item, shape, count, gappedIn(model, gapped));
             // Every position of the one operand goes through all values, and meets all values of the other.

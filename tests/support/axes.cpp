@@ -54,6 +54,8 @@ const SizeAxes matrixSizes = {
     .small = aroundUnrolled,
     // Every remainder of a row, every number of rows that a block could have.
     .tight = join({squares(1, 9), rowsAndColumns, rectangles, {{12, 12}, {17, 17}, {15, 3}, {23, 2}, {3, 23}}}),
+    // The unrolled orders, and rows with a remainder.
+    .special = {{3, 3}, {4, 4}, {5, 5}, {6, 6}, {7, 2}},
 };
 
 const SizeAxes vectorSizes = {
@@ -61,6 +63,8 @@ const SizeAxes vectorSizes = {
     .all = join({lengths(1, 33), {{63}, {64}, {65}, {100}, {129}}}),
     .small = join({lengths(1, 9), {{16}, {17}}}),
     .tight = join({lengths(1, 40), {{63}, {64}, {65}}}),
+    // Every remainder of a register of either type.
+    .special = {{1}, {3}, {5}, {7}, {9}, {15}, {31}},
 };
 
 std::span<const int> countsOf(const Model &model) {

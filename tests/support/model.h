@@ -100,8 +100,9 @@ Formula formula(Function function) {
 /// The values that the size parameters take in tests.
 struct SizeAxes {
     std::vector<Shape> all;
-    std::vector<Shape> small; // those that meet every stride pattern and every count
-    std::vector<Shape> tight; // those that are laid against guard pages
+    std::vector<Shape> small;   // those that meet every stride pattern and every count
+    std::vector<Shape> tight;   // those that are laid against guard pages
+    std::vector<Shape> special; // those that NaN, infinities and zeros wander through
 };
 
 struct ExportName {
