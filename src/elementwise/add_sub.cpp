@@ -54,15 +54,6 @@ Work workOf(int width, int height, int count) {
 
 } // namespace
 
-// An operation whose operands stand in the argument list in the other order.
-template <class Operation>
-struct Reversed {
-    template <class Number>
-    Number operator()(Number a, Number b) const {
-        return Operation()(b, a);
-    }
-};
-
 template <class Op, Code operands, class T, Layout memory>
 LxpStatus SumMember<Op, operands, T, memory>::run(const Arguments &arguments) {
     if (const LxpStatus status = firstFailure<rowOf<SumMember, orders>>(arguments); status != lxpStatusOk) {
@@ -78,10 +69,10 @@ LxpStatus SumMember<Op, operands, T, memory>::run(const Arguments &arguments) {
         const bool isContiguous = first.isContiguous() && second.isContiguous() && destination.isContiguous();
         parallel = rowOf<SumMember, thresholds>.isParallel(workOf<SumMember>(width, height, count), isContiguous);
     }
-    using Function = std::conditional_t<isReversed, Reversed<Operation>, Operation>;
-    return mapElements<T, Function, 2>(
-        Function(), parallel, count, height, width,
-        {destination.addresses(height, width), {first.addresses(height, width), second.addresses(height, width)}});
+    const Addresses<const T> sources[] = {first.addresses(height, width), second.addresses(height, width)};
+    return mapElements<T, Operation, 2>(
+        Operation(), parallel, count, height, width,
+        {destination.addresses(height, width), {sources[isReversed ? 1 : 0], sources[isReversed ? 0 : 1]}});
 }
 
 #define MEMBER(operation, code, type, layout, name)                                                                    \

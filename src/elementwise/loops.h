@@ -111,7 +111,8 @@ private:
         }
     }
 
-    // Vectors and rows of orders 3 to 6, and whole matrices of these orders whose rows touch, are unrolled.
+    // Vectors and rows of orders 3 to 6, and whole matrices of these orders whose rows touch, are unrolled. (A matrix
+    // has no constant beside it.)
     template <Moves... moves>
     static Loop chooseLength(std::ptrdiff_t n) {
         switch (n) {
@@ -123,17 +124,20 @@ private:
             return inRegisters<5, moves...>;
         case 6:
             return inRegisters<6, moves...>;
-        case 9:
-            return inRegisters<9, moves...>;
-        case 16:
-            return inRegisters<16, moves...>;
-        case 25:
-            return inRegisters<25, moves...>;
-        case 36:
-            return inRegisters<36, moves...>;
-        default:
-            return inRegisters<0, moves...>;
         }
+        if constexpr (((moves == Moves::Along) && ...)) {
+            switch (n) {
+            case 9:
+                return inRegisters<9, moves...>;
+            case 16:
+                return inRegisters<16, moves...>;
+            case 25:
+                return inRegisters<25, moves...>;
+            case 36:
+                return inRegisters<36, moves...>;
+            }
+        }
+        return inRegisters<0, moves...>;
     }
 
     template <int Length, Moves... moves>

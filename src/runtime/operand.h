@@ -8,11 +8,9 @@
 #include "runtime/addresses.h"
 #include "runtime/checks.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <numeric>
-#include <string_view>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -40,6 +38,8 @@ class Code {
 public:
     static constexpr int longest = 8;
 
+    consteval Code() = default;
+
     template <std::size_t Size>
     consteval Code(const char (&name)[Size]) {
         static_assert(Size - 1 <= longest);
@@ -50,26 +50,29 @@ public:
 
     constexpr bool operator==(const Code &) const = default;
 
-    constexpr std::string_view word() const {
-        return {text, static_cast<std::size_t>(std::find(text, text + longest, '\0') - text)};
-    }
-
     // The kind of an operand, counted from 0.
     constexpr Kind operator[](int operand) const {
-        const std::string_view letters = word();
-        std::size_t at = 0;
+        int at = 0;
         for (; operand > 0; --operand) {
-            at = letters.find_first_not_of('a', at + 1);
+            at += isArrayAt(at) ? 2 : 1;
         }
-        return {shapeOf(letters[at]), at + 1 < letters.size() && letters[at + 1] == 'a'};
+        return {shapeOf(text[at]), isArrayAt(at)};
     }
 
-    constexpr bool hasArray() const { return word().find('a') != std::string_view::npos; }
+    constexpr bool hasArray() const {
+        bool any = false;
+        for (char letter : text) {
+            any |= letter == 'a';
+        }
+        return any;
+    }
 
     // Structural, so that a code can be a template argument; not for use.
     char text[longest] = {};
 
 private:
+    constexpr bool isArrayAt(int at) const { return at + 1 < longest && text[at + 1] == 'a'; }
+
     static constexpr Shape shapeOf(char letter) {
         switch (letter) {
         case 'm':

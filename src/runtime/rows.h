@@ -7,10 +7,8 @@
 
 #include "runtime/operand.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <iterator>
-#include <string_view>
 
 namespace lxpm {
 
@@ -27,24 +25,37 @@ constexpr bool includes(Types set, std::size_t elementSize) {
 }
 
 // Operand codes, as a list of words.
-struct Codes {
-    std::string_view words; // none: all codes
-
+class Codes {
+public:
     consteval Codes() = default;
-    consteval Codes(const char *list) : words(list) {}
 
-    constexpr bool includes(Code code) const {
-        for (std::size_t at = 0; at < words.size(); at = words.find(' ', at) + 1) {
-            const std::size_t end = std::min(words.find(' ', at), words.size());
-            if (words.substr(at, end - at) == code.word()) {
-                return true;
-            }
-            if (end == words.size()) {
-                return false;
+    template <std::size_t Size>
+    consteval Codes(const char (&list)[Size]) {
+        int letter = 0;
+        for (std::size_t i = 0; i + 1 < Size; ++i) {
+            if (list[i] == ' ') {
+                ++last;
+                letter = 0;
+            } else {
+                code[last].text[letter++] = list[i];
             }
         }
-        return words.empty();
     }
+
+    // No list at all stands for all codes.
+    constexpr bool includes(const Code &member) const {
+        bool any = code[0] == Code();
+        for (int i = 0; i <= last; ++i) {
+            any |= code[i] == member;
+        }
+        return any;
+    }
+
+private:
+    static constexpr int most = 32;
+
+    Code code[most] = {};
+    int last = 0;
 };
 
 inline constexpr Codes allCodes;
