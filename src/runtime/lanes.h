@@ -52,7 +52,7 @@ inline Lanes<float, 4> loadFirst(const float *from) {
     } else if constexpr (K == 1) {
         return {_mm_load_ss(from)};
     } else {
-        const __m128 pair = _mm_castpd_ps(_mm_load_sd(reinterpret_cast<const double *>(from)));
+        const __m128 pair = _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i *>(from)));
         return {K == 2 ? pair : _mm_movelh_ps(pair, _mm_load_ss(from + 2))};
     }
 }

@@ -13,16 +13,17 @@ namespace lxpm {
 
 namespace {
 
-// The rounding and denormal modes of a thread, changed for a while. The exceptions raised meanwhile stay raised.
-class ControlModes {
+// The floating-point state of the caller, in a thread of its team. When the work is done the thread has its own modes
+// back, with the exceptions that the work raised; those that starting the team raised on the caller are forgotten.
+class AsCaller {
 public:
-    explicit ControlModes(unsigned wanted) : found(_mm_getcsr()) { _mm_setcsr((found & raised) | (wanted & ~raised)); }
-    ~ControlModes() { _mm_setcsr((found & ~raised) | (_mm_getcsr() & raised)); }
-    ControlModes(const ControlModes &) = delete;
-    ControlModes &operator=(const ControlModes &) = delete;
+    explicit AsCaller(unsigned caller) : found(_mm_getcsr()) { _mm_setcsr(caller); }
+    ~AsCaller() { _mm_setcsr((found & ~exceptions) | (_mm_getcsr() & exceptions)); }
+    AsCaller(const AsCaller &) = delete;
+    AsCaller &operator=(const AsCaller &) = delete;
 
 private:
-    static constexpr unsigned raised = 0x3f; // the exception flags of the register; the rest are modes and masks
+    static constexpr unsigned exceptions = 0x3f; // the flags of the register; the rest are modes and masks
     unsigned found;
 };
 
@@ -49,11 +50,11 @@ LxpStatus shareOut(int count, SerialKernel kernel, const void *call) noexcept {
     // Asked again, because the setting is the caller's to change up to the moment at which the team starts.
     const int team = suppliedThreads(ownGetNumThreads());
 
-    const unsigned modes = _mm_getcsr();
+    const unsigned state = _mm_getcsr();
     int quotient = 0;
     int remainder = 0;
     LxpStatus result = lxpStatusOk;
-#pragma omp parallel num_threads(team) default(none) shared(quotient, remainder, result, count, kernel, call, modes)
+#pragma omp parallel num_threads(team) default(none) shared(quotient, remainder, result, count, kernel, call, state)
     {
 #pragma omp master
         {
@@ -63,7 +64,7 @@ LxpStatus shareOut(int count, SerialKernel kernel, const void *call) noexcept {
         }
 #pragma omp barrier
         const Block block = blockOf(omp_get_thread_num(), quotient, remainder);
-        const ControlModes asCaller(modes);
+        const AsCaller asCaller(state);
         const LxpStatus status = kernel(call, block.first, block.count);
         if (status != lxpStatusOk) {
 #pragma omp critical(lxpm_status)
