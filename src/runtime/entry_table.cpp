@@ -5,6 +5,7 @@
 // is writable, so that an implementation can be exchanged as a whole, but nothing here writes it.
 
 #include "elementwise/add_sub.h"
+#include "graphics/graphics.h"
 #include "runtime/entry.h"
 #include "runtime/version.h"
 

@@ -28,11 +28,27 @@
     MEMBER(operation, code, type, P, lxpm##operation##_##code##_##type##_P)
 // clang-format on
 
+// SMALL_VECTORS: an operation on plain vectors of 2, 3 and 4 elements, outside of all families.
+#define SMALL_VECTORS(operation)                                                                                       \
+    EXPORT(lxpm##operation##_v2_32f)                                                                                   \
+    EXPORT(lxpm##operation##_v3_32f)                                                                                   \
+    EXPORT(lxpm##operation##_v4_32f)
+
 #ifdef EXPORT_LIST
 #include EXPORT_LIST
 #undef EXPORT_LIST
 #else
-#include "elementwise/add_sub.list.h"
+#include "elementwise/add.list.h"
+SMALL_VECTORS(Add)
+#include "elementwise/sub.list.h"
+SMALL_VECTORS(Sub)
+EXPORT(lxpmMul_mm4x4_32f)
+SMALL_VECTORS(DotProduct)
+SMALL_VECTORS(CrossProduct)
+EXPORT(lxpmTranspose_m4_32f)
+EXPORT(lxpmDet_m4_32f)
+EXPORT(lxpmInvert_m4_32f)
+#include "graphics/graphics.list.h"
 EXPORT(lxpmGetLibVersion)
 #endif
 
@@ -40,5 +56,6 @@ EXPORT(lxpmGetLibVersion)
 #undef SINGLE
 #undef ARRAY_OF
 #undef SINGLE_OF
+#undef SMALL_VECTORS
 #undef MEMBER
 #undef EXPORT
