@@ -32,7 +32,15 @@
 #include EXPORT_LIST
 #undef EXPORT_LIST
 #else
+// clang-format off
 #include "elementwise/add_sub.list.h"
+#include "products/dot_product.list.h"
+#include "products/cross_product.list.h"
+#include "products/l2_norm.list.h"
+#include "products/frob_norm.list.h"
+#include "products/trace.list.h"
+#include "products/transpose.list.h"
+// clang-format on
 EXPORT(lxpmGetLibVersion)
 #endif
 

@@ -106,7 +106,7 @@ private:
 Report checkStatus(const Export &item) {
     Report report;
     const std::vector<Fault> faults = faultsOf(item.model);
-    const Shape shape = item.model.sizes.size() == 2 ? Shape{4, 3} : Shape{5};
+    const Shape shape = item.model.sizes.size() == 2 ? Shape{4, 3} : Shape(item.model.sizes.size(), 5);
 
     FaultyCall call(item, shape, 2, report);
     FaultyCall large(item, shape, 2000, report); // above every limit: the choice of kernel comes after the checks

@@ -136,6 +136,15 @@ INSTANTIATE_TEST_SUITE_P(Every, Layouts, testing::ValuesIn(groupLayouts()),
 TEST(Coverage, TheListHasAllExports) {
     EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "Add"; }).size(), 92u);
     EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "Sub"; }).size(), 154u);
+    for (const auto &[operation, exports] : std::map<std::string, std::size_t>{{"DotProduct", 16},
+                                                                               {"CrossProduct", 22},
+                                                                               {"L2Norm", 10},
+                                                                               {"FrobNorm", 10},
+                                                                               {"Trace", 10},
+                                                                               {"Transpose", 10}}) {
+        EXPECT_EQ(exportsThat([&](const Model &model) { return model.operation == operation; }).size(), exports)
+            << operation;
+    }
     EXPECT_EQ(exportNames().size(), familyExports().size() + 1);
 }
 

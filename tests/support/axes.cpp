@@ -63,6 +63,20 @@ const SizeAxes vectorSizes = {
     .tight = join({lengths(1, 40), {{63}, {64}, {65}}}),
 };
 
+const SizeAxes summedMatrixSizes = {
+    .all = join({matrixSizes.all, {{64, 2}, {47, 3}, {15, 9}}}),
+    .small = join({aroundUnrolled, {{16, 2}, {17, 3}}}),
+    .tight = matrixSizes.tight,
+};
+
+const SizeAxes orders = {
+    .all = join({lengths(1, 20), {{33}}}),
+    .small = lengths(1, 7),
+    .tight = lengths(1, 9),
+};
+
+const SizeAxes noSizes = {.all = {{}}, .small = {{}}, .tight = {{}}};
+
 std::span<const int> countsOf(const Model &model) {
     // One object; fewer than the lanes of a register of either type; exactly as many; one more; two registers of
     // lanes and a remainder; many.
