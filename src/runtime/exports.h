@@ -38,17 +38,25 @@
 #include EXPORT_LIST
 #undef EXPORT_LIST
 #else
+// clang-format off
 #include "elementwise/add.list.h"
 SMALL_VECTORS(Add)
 #include "elementwise/sub.list.h"
 SMALL_VECTORS(Sub)
 EXPORT(lxpmMul_mm4x4_32f)
+#include "products/dot_product.list.h"
 SMALL_VECTORS(DotProduct)
+#include "products/cross_product.list.h"
 SMALL_VECTORS(CrossProduct)
+#include "products/l2_norm.list.h"
+#include "products/frob_norm.list.h"
+#include "products/trace.list.h"
+#include "products/transpose.list.h"
 EXPORT(lxpmTranspose_m4_32f)
 EXPORT(lxpmDet_m4_32f)
 EXPORT(lxpmInvert_m4_32f)
 #include "graphics/graphics.list.h"
+// clang-format on
 EXPORT(lxpmGetLibVersion)
 #endif
 
