@@ -36,14 +36,6 @@ constexpr Spacing spacingOf(std::ptrdiff_t stride) {
 
 namespace detail {
 
-inline Group joined(Lanes<float, 4> low, Lanes<float, 4> high) {
-    return {_mm256_insertf128_ps(_mm256_castps128_ps256(low.vector), high.vector, 1)};
-}
-
-inline Group joined(const float *low, const float *high) {
-    return joined(Lanes<float, 4>::load(low), Lanes<float, 4>::load(high));
-}
-
 inline void storeHalves(Group group, float *low, float *high) {
     Lanes<float, 4>{_mm256_castps256_ps128(group.vector)}.store(low);
     Lanes<float, 4>{_mm256_extractf128_ps(group.vector, 1)}.store(high);
@@ -69,16 +61,15 @@ inline Vectors<4> transposedInHalves(const Vectors<4> &r) {
 // Eight vectors in lanes. In comments, elements of the lower half are named by letter and vector.
 template <int K, Spacing spacing>
 [[gnu::always_inline]] inline Vectors<K> readVectors(const float *from, std::ptrdiff_t stride) {
-    using detail::joined;
     using detail::shuffled;
     if constexpr (K == 2 && spacing == Spacing::Packed) {
-        const Group first = joined(from, from + 8);       // x0 y0 x1 y1
-        const Group second = joined(from + 4, from + 12); // x2 y2 x3 y3
+        const Group first = loadHalves(from, from + 8);       // x0 y0 x1 y1
+        const Group second = loadHalves(from + 4, from + 12); // x2 y2 x3 y3
         return {shuffled<0, 2, 0, 2>(first, second), shuffled<1, 3, 1, 3>(first, second)};
     } else if constexpr (K == 3 && spacing == Spacing::Packed) {
-        const Group first = joined(from, from + 12);          // x0 y0 z0 x1
-        const Group second = joined(from + 4, from + 16);     // y1 z1 x2 y2
-        const Group third = joined(from + 8, from + 20);      // z2 x3 y3 z3
+        const Group first = loadHalves(from, from + 12);      // x0 y0 z0 x1
+        const Group second = loadHalves(from + 4, from + 16); // y1 z1 x2 y2
+        const Group third = loadHalves(from + 8, from + 20);  // z2 x3 y3 z3
         const Group xy = shuffled<2, 3, 1, 2>(second, third); // x2 y2 x3 y3
         const Group yz = shuffled<1, 2, 0, 1>(first, second); // y0 z0 y1 z1
         return {shuffled<0, 3, 0, 2>(first, xy), shuffled<0, 2, 1, 3>(yz, xy), shuffled<1, 3, 0, 3>(yz, third)};
