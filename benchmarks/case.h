@@ -27,6 +27,10 @@ struct Case {
     std::size_t bytesRead;
     std::size_t bytesWritten;
 
+    // How far the results of a peer may be from the library's, in terms of the largest of them; 0: the same bits. Only
+    // for single precision.
+    float tolerance = 0;
+
     // The call, with its operands laid out in that memory; its first result is Memory::result().
     std::function<Call(const Memory &)> prepare;
 };
@@ -34,5 +38,6 @@ struct Case {
 // The list of all cases. A family appends its own.
 std::vector<Case> allCases();
 void appendAddSub(std::vector<Case> &cases);
+void appendGraphics(std::vector<Case> &cases);
 
 } // namespace lxpm::bench

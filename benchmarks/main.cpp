@@ -9,12 +9,14 @@
 #include "peers/peers.h"
 #include "triad.h"
 
+#include <algorithm>
 #include <benchmark/benchmark.h>
+#include <cmath>
 #include <cstring>
 #include <memory>
 #include <omp.h>
-#include <optional>
 #include <unistd.h>
+#include <vector>
 
 namespace lxpm::bench {
 
@@ -44,7 +46,7 @@ public:
         showProgress(name());
         const Memory &memory = case_.setting.memory();
         omp_set_num_threads(case_.setting.threads);
-        if (toBeChecked_ && resultOf(prepare_(memory), memory) != resultOf(case_.prepare(memory), memory)) {
+        if (toBeChecked_ && !isSame(resultOf(prepare_(memory), memory), resultOf(case_.prepare(memory), memory))) {
             state.SkipWithError("its results are not those of the library");
             return;
         }
@@ -62,13 +64,32 @@ public:
     }
 
 private:
-    // A digest of everything that a call writes; none if it fails.
-    std::optional<std::size_t> resultOf(const Call &call, const Memory &memory) const {
+    // Everything that a call writes; nothing if it fails.
+    std::vector<char> resultOf(const Call &call, const Memory &memory) const {
         std::memset(memory.result(), 0, case_.bytesWritten);
         if (call() != lxpStatusOk) {
-            return std::nullopt;
+            return {};
         }
-        return std::hash<std::string_view>()({static_cast<const char *>(memory.result()), case_.bytesWritten});
+        const auto *const begin = static_cast<const char *>(memory.result());
+        return {begin, begin + case_.bytesWritten};
+    }
+
+    bool isSame(const std::vector<char> &peers, const std::vector<char> &librarys) const {
+        if (case_.tolerance == 0 || peers.size() != librarys.size()) {
+            return peers == librarys;
+        }
+        const auto number = [](const std::vector<char> &numbers, std::size_t i) {
+            float value;
+            std::memcpy(&value, numbers.data() + i * sizeof value, sizeof value);
+            return value;
+        };
+        float largest = 0;
+        float farthest = 0;
+        for (std::size_t i = 0; i < peers.size() / sizeof(float); ++i) {
+            largest = std::max(largest, std::abs(number(librarys, i)));
+            farthest = std::max(farthest, std::abs(number(librarys, i) - number(peers, i)));
+        }
+        return farthest <= case_.tolerance * largest;
     }
 
     const Case &case_;

@@ -45,6 +45,7 @@ Case makeCase(const Setting &setting, const std::string &group, const std::strin
             .objects = count,
             .bytesRead = count * read,
             .bytesWritten = count * written,
+            .tolerance = 0,
             .prepare = prepare};
 }
 
