@@ -33,6 +33,7 @@
  */
 
 #include <lxpm/elementwise.h>
+#include <lxpm/products.h>
 #include <lxpm/types.h>
 #include <lxpm/version.h>
 

@@ -5,6 +5,8 @@
 // is writable, so that an implementation can be exchanged as a whole, but nothing here writes it.
 
 #include "elementwise/add_sub.h"
+#include "products/gaxpy.h"
+#include "products/mul.h"
 #include "runtime/entry.h"
 #include "runtime/version.h"
 

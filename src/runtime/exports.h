@@ -33,6 +33,8 @@
 #undef EXPORT_LIST
 #else
 #include "elementwise/add_sub.list.h"
+#include "products/mul.list.h"
+#include "products/gaxpy.list.h"
 EXPORT(lxpmGetLibVersion)
 #endif
 

@@ -120,4 +120,40 @@ inline void transpose(std::array<Lanes<double, 4>, 4> &r) {
     r[3].vector = _mm256_permute2f128_pd(odd01, odd23, 0x31);            // 03 13 | 23 33
 }
 
+// Two halves of a register.
+
+inline Lanes<float, 8> halves(Lanes<float, 4> low, Lanes<float, 4> high) {
+    return {_mm256_insertf128_ps(_mm256_castps128_ps256(low.vector), high.vector, 1)};
+}
+
+inline Lanes<float, 8> bothHalves(const float *from) {
+    return {_mm256_broadcast_ps(reinterpret_cast<const __m128 *>(from))};
+}
+
+inline Lanes<float, 4> lowHalf(Lanes<float, 8> lanes) {
+    return {_mm256_castps256_ps128(lanes.vector)};
+}
+
+inline Lanes<float, 4> highHalf(Lanes<float, 8> lanes) {
+    return {_mm256_extractf128_ps(lanes.vector, 1)};
+}
+
+// In each half, the lanes a, b, c, d of that half.
+template <int a, int b, int c, int d>
+inline Lanes<float, 8> chosenInHalves(Lanes<float, 8> lanes) {
+    return {_mm256_permute_ps(lanes.vector, a | b << 2 | c << 4 | d << 6)};
+}
+
+// In each half, rows become columns.
+inline void transposeHalves(std::array<Lanes<float, 8>, 4> &r) {
+    const __m256 low01 = _mm256_unpacklo_ps(r[0].vector, r[1].vector);
+    const __m256 low23 = _mm256_unpacklo_ps(r[2].vector, r[3].vector);
+    const __m256 high01 = _mm256_unpackhi_ps(r[0].vector, r[1].vector);
+    const __m256 high23 = _mm256_unpackhi_ps(r[2].vector, r[3].vector);
+    r[0].vector = _mm256_shuffle_ps(low01, low23, 0x44);
+    r[1].vector = _mm256_shuffle_ps(low01, low23, 0xee);
+    r[2].vector = _mm256_shuffle_ps(high01, high23, 0x44);
+    r[3].vector = _mm256_shuffle_ps(high01, high23, 0xee);
+}
+
 } // namespace lxpm

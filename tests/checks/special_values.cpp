@@ -36,6 +36,11 @@ constexpr std::array specialValues = {
 // The unrolled orders, and rows with a remainder of every length.
 const std::vector<Shape> matrices = {{3, 3}, {4, 4}, {5, 5}, {6, 6}, {7, 2}};
 const std::vector<Shape> vectors = {{1}, {3}, {5}, {7}, {9}, {15}, {31}};
+const std::vector<Shape> products = {{3, 3, 3}, {4, 4, 4}, {5, 5, 5}, {6, 6, 6}, {5, 9, 17}};
+
+const std::vector<Shape> &shapesOf(const Model &model) {
+    return model.dimensions() == 1 ? vectors : model.dimensions() == 2 ? matrices : products;
+}
 
 } // namespace
 
@@ -43,11 +48,10 @@ Report checkSpecialValues(const Export &item) {
     Report report;
     setThreadCount(1);
     const Model &model = item.model;
-    const bool isMatrix = model.sizes.size() == 2;
     // A register of lanes and a remainder.
     const int count = model.hasCount ? 9 : 1;
     constexpr std::size_t values = specialValues.size();
-    for (const Shape &shape : isMatrix ? matrices : vectors) {
+    for (const Shape &shape : shapesOf(model)) {
         for (const unsigned gapped : {0u, ~0u}) {
             Call call(item, shape, count, gappedIn(model, gapped));
             // Every position of the one operand goes through all values, and meets all values of the other.

@@ -136,6 +136,8 @@ INSTANTIATE_TEST_SUITE_P(Every, Layouts, testing::ValuesIn(groupLayouts()),
 TEST(Coverage, TheListHasAllExports) {
     EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "Add"; }).size(), 92u);
     EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "Sub"; }).size(), 154u);
+    EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "Mul"; }).size(), 174u);
+    EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "Gaxpy"; }).size(), 16u);
     EXPECT_EQ(exportNames().size(), familyExports().size() + 1);
 }
 

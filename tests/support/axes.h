@@ -18,6 +18,12 @@ extern const SizeAxes matrixSizes;
 /// Shape {len}.
 extern const SizeAxes vectorSizes;
 
+/// Shape {rows, inner, columns} of a product of matrices.
+extern const SizeAxes productSizes;
+
+/// Shape {rows, inner} of a product of a matrix and a vector.
+extern const SizeAxes matrixVectorSizes;
+
 /// The number of objects in an array; {1} for an export without arrays.
 std::span<const int> countsOf(const Model &model);
 

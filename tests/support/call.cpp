@@ -94,7 +94,7 @@ Fill distinctValues(ElementType type) {
 
 Fill wholeNumbers(ElementType type) {
     return [type](int operand, std::size_t element) {
-        return bitsOf(type, static_cast<double>(element % 1000) + 1000.0 * operand + 1.0);
+        return bitsOf(type, static_cast<double>(element % 50) + 50.0 * operand + 1.0);
     };
 }
 
@@ -140,10 +140,14 @@ void Call::fill(const Fill &fill) {
 
 void Call::makeArguments() {
     arguments_.clear();
-    for (const PlacedOperand &operand : operands_) {
-        operand.appendArguments(arguments_);
+    for (int index = 0; index < static_cast<int>(operands_.size()); ++index) {
+        operands_[index].appendArguments(arguments_);
+        for (const SizeParameter &size : export_.model.sizes) {
+            if (size.operand == index) {
+                arguments_.emplace_back(shape_[size.size]);
+            }
+        }
     }
-    arguments_.insert(arguments_.end(), shape_.begin(), shape_.end());
     if (export_.model.hasCount) {
         arguments_.emplace_back(count_);
     }

@@ -4,6 +4,8 @@
 #include "support/exports.h"
 
 #include "elementwise/add_sub.h"
+#include "products/gaxpy.h"
+#include "products/mul.h"
 
 #include <lxpm.h>
 
@@ -23,6 +25,8 @@ struct Family {
 constexpr Family families[] = {
     {"Add", describeAddSub},
     {"Sub", describeAddSub},
+    {"Mul", describeMul},
+    {"Gaxpy", describeGaxpy},
 };
 
 Model describe(const ExportName &name) {
