@@ -12,6 +12,7 @@
 #include <array>
 #include <cstddef>
 #include <immintrin.h>
+#include <utility>
 
 namespace lxpm {
 
@@ -30,12 +31,12 @@ struct Lanes {
 
     static Lanes load(const T *from) { return {reinterpret_cast<const Unaligned *>(from)->vector}; }
     void store(T *to) const { reinterpret_cast<Unaligned *>(to)->vector = vector; }
+    // One broadcast: as a list, not as a loop, of which the compiler would make insertions where it unrolls another.
     static Lanes splat(T value) {
-        Lanes lanes;
-        for (int i = 0; i < N; ++i) { // one broadcast instruction
-            lanes.vector[i] = value;
+        return [value]<std::size_t... lane>(std::index_sequence<lane...>) __attribute__((always_inline)) {
+            return Lanes{Vector{((void)lane, value)...}};
         }
-        return lanes;
+        (std::make_index_sequence<N>());
     }
 
     friend Lanes operator+(Lanes a, Lanes b) { return {a.vector + b.vector}; }
