@@ -5,6 +5,10 @@
 // is writable, so that an implementation can be exchanged as a whole, but nothing here writes it.
 
 #include "elementwise/add_sub.h"
+#include "elementwise/copy.h"
+#include "elementwise/extract.h"
+#include "elementwise/load_identity.h"
+#include "elementwise/saxpy_lcomb.h"
 #include "runtime/entry.h"
 #include "runtime/version.h"
 

@@ -136,6 +136,13 @@ INSTANTIATE_TEST_SUITE_P(Every, Layouts, testing::ValuesIn(groupLayouts()),
 TEST(Coverage, TheListHasAllExports) {
     EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "Add"; }).size(), 92u);
     EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "Sub"; }).size(), 154u);
+    for (const char *copy : {"CopyToS", "CopyToL", "CopyToP"}) {
+        EXPECT_EQ(exportsThat([copy](const Model &model) { return model.operation == copy; }).size(), 12u);
+    }
+    EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "Extract"; }).size(), 30u);
+    EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "LoadIdentity"; }).size(), 6u);
+    EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "Saxpy"; }).size(), 22u);
+    EXPECT_EQ(exportsThat([](const Model &model) { return model.operation == "LComb"; }).size(), 16u);
     EXPECT_EQ(exportNames().size(), familyExports().size() + 1);
 }
 

@@ -4,6 +4,8 @@
 #include "support/exports.h"
 
 #include "elementwise/add_sub.h"
+#include "elementwise/moving.h"
+#include "elementwise/saxpy_lcomb.h"
 
 #include <lxpm.h>
 
@@ -23,6 +25,13 @@ struct Family {
 constexpr Family families[] = {
     {"Add", describeAddSub},
     {"Sub", describeAddSub},
+    {"CopyToS", describeCopy},
+    {"CopyToL", describeCopy},
+    {"CopyToP", describeCopy},
+    {"Extract", describeExtract},
+    {"LoadIdentity", describeLoadIdentity},
+    {"Saxpy", describeSaxpyLComb},
+    {"LComb", describeSaxpyLComb},
 };
 
 Model describe(const ExportName &name) {

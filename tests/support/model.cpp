@@ -9,7 +9,10 @@ Form formOf(const Operand &operand, Layout layout) {
     if (operand.kind == Kind::Constant && !operand.isArray) {
         return Form::ByValue;
     }
-    switch (layout) {
+    if (operand.isDense) {
+        return Form::Dense;
+    }
+    switch (operand.ownLayout.value_or(layout)) {
     case Layout::ObjectPointers:
         return operand.isArray ? Form::ObjectPointers : Form::Strided;
     case Layout::ElementPointers:
@@ -38,6 +41,7 @@ LxpStatus statusOf(Check check) {
     case Check::Sizes:
         return lxpStatusSizeErr;
     case Check::Strides:
+    case Check::LateStrides:
         return lxpStatusStrideErr;
     case Check::Offsets:
         return lxpStatusRoiShiftErr;
@@ -51,6 +55,8 @@ std::optional<Check> checkOf(ParameterKind kind) {
         return Check::Pointers;
     case ParameterKind::Stride:
         return Check::Strides;
+    case ParameterKind::LateStride:
+        return Check::LateStrides;
     case ParameterKind::Offset:
         return Check::Offsets;
     case ParameterKind::Size:
@@ -67,7 +73,7 @@ bool Model::mayBeInPlace(int source) const {
     const Operand &from = operands[source];
     const Operand &to = operands.back();
     return !from.isWritten && from.kind == to.kind && from.isArray == to.isArray && from.rows == to.rows &&
-           from.columns == to.columns;
+           from.columns == to.columns && formOf(from, layout) == formOf(to, layout);
 }
 
 std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, ElementType type) {
@@ -80,6 +86,7 @@ std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, Eleme
     case Form::ByValue:
         parameters.push_back({element, operand.role, ParameterKind::Value});
         break;
+    case Form::Dense:
     case Form::Strided:
         parameters.push_back({pointee + " *", operand.role, ParameterKind::Pointer});
         break;
@@ -89,8 +96,9 @@ std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, Eleme
         parameters.push_back({"int", operand.role + "PtrOffset", ParameterKind::Offset});
         break;
     }
-    if (operand.isArray && form != Form::ObjectPointers) {
-        parameters.push_back({"int", operand.role + "ObjStride", ParameterKind::Stride});
+    if (operand.isArray && form != Form::ObjectPointers && form != Form::Dense) {
+        parameters.push_back({"int", operand.role + "ObjStride",
+                              operand.isObjStrideLate ? ParameterKind::LateStride : ParameterKind::Stride});
     }
     if (hasRowStride(operand, form)) {
         parameters.push_back({"int", operand.role + "RowStride", ParameterKind::Stride});

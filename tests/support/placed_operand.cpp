@@ -37,7 +37,10 @@ PlacedOperand::PlacedOperand(const Operand &operand, Layout layout, ElementType 
     if (form_ == Form::ByValue) {
         return;
     }
-    strides_ = placement.pattern->stridesOf({storedRows_, storedColumns_, objects_, size_});
+    if (form_ == Form::Dense) {
+        placement_.pattern = &dense;
+    }
+    strides_ = placement_.pattern->stridesOf({storedRows_, storedColumns_, objects_, size_});
     if (form_ == Form::ObjectPointers) {
         slots_ = orderOf(objects_, placement.shuffle);
     } else if (form_ == Form::ElementPointers) {
@@ -131,6 +134,9 @@ void PlacedOperand::appendArguments(std::vector<Argument> &arguments) const {
             std::memcpy(&value, value_, sizeof value);
             arguments.emplace_back(value);
         }
+        return;
+    case Form::Dense:
+        arguments.emplace_back(static_cast<const void *>(base_));
         return;
     case Form::Strided:
         arguments.emplace_back(static_cast<const void *>(base_));
