@@ -61,7 +61,7 @@ struct Nest {
 
     // An operand whose pointers stand evenly apart is a strided one, and may be arranged as such. In natural order.
     void straighten() {
-        forEachOperand([this](auto &o) { straighten(o); });
+        forEachOperand([this](auto &o) { this->straighten(o); });
     }
 
     // Nests the loops as the memory likes best.
