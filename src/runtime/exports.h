@@ -32,7 +32,8 @@
 #include EXPORT_LIST
 #undef EXPORT_LIST
 #else
-#include "elementwise/add_sub.list.h"
+#include "elementwise/add.list.h"
+#include "elementwise/sub.list.h"
 EXPORT(lxpmGetLibVersion)
 #endif
 

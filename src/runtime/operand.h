@@ -7,6 +7,7 @@
 
 #include "runtime/addresses.h"
 #include "runtime/checks.h"
+#include "runtime/one_object.h"
 
 #include <array>
 #include <cstddef>
@@ -146,7 +147,7 @@ public:
     template <class... Int>
     explicit constexpr Operand(Lead first, Int... rest) : lead(first), integer{rest...} {}
 
-    constexpr bool violates(Check check) const {
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
         switch (check) {
         case Check::Pointers:
             if constexpr (form != Form::Value) {
@@ -168,6 +169,20 @@ public:
             return integer[elemStrideAt] == static_cast<int>(sizeof(Element));
         } else {
             return true;
+        }
+    }
+
+    // A single object, in rows and columns of the operation.
+    constexpr auto object([[maybe_unused]] int height = 1, [[maybe_unused]] int width = 1) const requires(!kind.array) {
+        if constexpr (form == Form::Value) {
+            return ConstantObject<Value>{lead};
+        } else if constexpr (form == Form::ElementPointers) {
+            const PointedObject<Element> stored = {lead, offset(), width, 1};
+            return kind.shape == Shape::Transposed ? PointedObject<Element>{lead, offset(), 1, height} : stored;
+        } else {
+            const StridedObject<Element> stored = {lead, stride(hasRowStride, rowStrideAt),
+                                                   stride(hasElemStride, elemStrideAt)};
+            return kind.shape == Shape::Transposed ? stored.transposed() : stored;
         }
     }
 
@@ -204,7 +219,7 @@ private:
     }
 
     template <class Predicate>
-    constexpr bool anyInteger(int from, int to, Predicate predicate) const {
+    [[gnu::always_inline]] constexpr bool anyInteger(int from, int to, Predicate predicate) const {
         bool any = false;
         for (int i = from; i < to; ++i) {
             any |= predicate(integer[static_cast<std::size_t>(i)]);
@@ -225,7 +240,7 @@ struct Sizes {
     template <class... Int>
     explicit constexpr Sizes(Int... sizes) : size{sizes...} {}
 
-    constexpr bool violates(Check check) const {
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
         bool any = false;
         for (int s : size) {
             any |= s < 1;
@@ -252,7 +267,7 @@ struct Count {
     int value;
 
     explicit constexpr Count(int count) : value(count) {}
-    constexpr bool violates(Check check) const { return check == Check::Count && value < 1; }
+    [[gnu::always_inline]] constexpr bool violates(Check check) const { return check == Check::Count && value < 1; }
 };
 
 // In the place of Count where no operand is an array.
@@ -260,7 +275,7 @@ struct OneObject {
     using Parameters = TypeList<>;
     static constexpr int value = 1;
 
-    constexpr bool violates(Check) const { return false; }
+    [[gnu::always_inline]] constexpr bool violates(Check) const { return false; }
 };
 
 // The argument list of an export: what its parts contribute, one behind the other.
@@ -283,7 +298,7 @@ public:
     explicit constexpr Arguments(P... parameters)
         : Arguments(std::tuple<P...>(parameters...), std::index_sequence_for<Parts...>()) {}
 
-    constexpr bool violates(Check check) const {
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
         return std::apply([check](const Parts &...part) { return (part.violates(check) || ...); }, parts);
     }
 
