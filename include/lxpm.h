@@ -33,6 +33,8 @@
  */
 
 #include <lxpm/elementwise.h>
+#include <lxpm/graphics.h>
+#include <lxpm/reductions.h>
 #include <lxpm/types.h>
 #include <lxpm/version.h>
 

@@ -77,7 +77,12 @@ LxpStatus SumMember<Op, operands, T, memory>::run(const Arguments &arguments) {
 
 #define MEMBER(operation, code, type, layout, name)                                                                    \
     template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "elementwise/add_sub.list.h"
+#define EXPORT_LIST "elementwise/add.list.h"
+#include "runtime/exports.h"
+
+#define MEMBER(operation, code, type, layout, name)                                                                    \
+    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
+#define EXPORT_LIST "elementwise/sub.list.h"
 #include "runtime/exports.h"
 
 } // namespace lxpm

@@ -5,6 +5,13 @@
 // is writable, so that an implementation can be exchanged as a whole, but nothing here writes it.
 
 #include "elementwise/add_sub.h"
+#include "graphics/graphics.h"
+#include "products/cross_product.h"
+#include "products/dot_product.h"
+#include "products/frob_norm.h"
+#include "products/l2_norm.h"
+#include "products/trace.h"
+#include "products/transpose.h"
 #include "runtime/entry.h"
 #include "runtime/version.h"
 

@@ -28,11 +28,35 @@
     MEMBER(operation, code, type, P, lxpm##operation##_##code##_##type##_P)
 // clang-format on
 
+// SMALL_VECTORS: an operation on plain vectors of 2, 3 and 4 elements, outside of all families.
+#define SMALL_VECTORS(operation)                                                                                       \
+    EXPORT(lxpm##operation##_v2_32f)                                                                                   \
+    EXPORT(lxpm##operation##_v3_32f)                                                                                   \
+    EXPORT(lxpm##operation##_v4_32f)
+
 #ifdef EXPORT_LIST
 #include EXPORT_LIST
 #undef EXPORT_LIST
 #else
-#include "elementwise/add_sub.list.h"
+// clang-format off
+#include "elementwise/add.list.h"
+SMALL_VECTORS(Add)
+#include "elementwise/sub.list.h"
+SMALL_VECTORS(Sub)
+EXPORT(lxpmMul_mm4x4_32f)
+#include "products/dot_product.list.h"
+SMALL_VECTORS(DotProduct)
+#include "products/cross_product.list.h"
+SMALL_VECTORS(CrossProduct)
+#include "products/l2_norm.list.h"
+#include "products/frob_norm.list.h"
+#include "products/trace.list.h"
+#include "products/transpose.list.h"
+EXPORT(lxpmTranspose_m4_32f)
+EXPORT(lxpmDet_m4_32f)
+EXPORT(lxpmInvert_m4_32f)
+#include "graphics/graphics.list.h"
+// clang-format on
 EXPORT(lxpmGetLibVersion)
 #endif
 
@@ -40,5 +64,6 @@ EXPORT(lxpmGetLibVersion)
 #undef SINGLE
 #undef ARRAY_OF
 #undef SINGLE_OF
+#undef SMALL_VECTORS
 #undef MEMBER
 #undef EXPORT

@@ -247,6 +247,23 @@ struct VectorLength : Sizes<1> {
     constexpr int height() const { return 1; }
 };
 
+// A square matrix.
+struct MatrixOrder : Sizes<1> {
+    using Sizes::Sizes;
+    constexpr int width() const { return size[0]; }
+    constexpr int height() const { return size[0]; }
+};
+
+// Where scalar results go: one for each object, one behind the other, in every layout.
+template <class T>
+struct ScalarResults {
+    using Parameters = TypeList<T *>;
+    T *first;
+
+    explicit constexpr ScalarResults(T *results) : first(results) {}
+    constexpr bool violates(Check check) const { return check == Check::Pointers && first == nullptr; }
+};
+
 struct Count {
     using Parameters = TypeList<int>;
     int value;

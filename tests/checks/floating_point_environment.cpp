@@ -86,7 +86,8 @@ Report checkFloatingPointEnvironment(const Export &item) {
     for (const unsigned environment : environments) {
         for (const ParallelCase &at : cases) {
             for (const Pattern *pattern : {&dense, &paddedRows, &gappedElements}) {
-                verify(item, at, *pattern, environment, wholeNumbers(model.type), 0, report);
+                verify(item, at, *pattern, environment, wholeNumbers(model.type),
+                       model.isExactForWholeNumbers ? 0 : inexact, report);
                 verify(item, at, *pattern, environment, distinctValues(model.type), inexact, report);
             }
         }

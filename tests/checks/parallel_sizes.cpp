@@ -44,8 +44,8 @@ int firstParallelCount(const Model &model, const Shape &shape, bool isContiguous
 
 Shape firstParallelShape(const Model &model, int count, bool isContiguous) {
     Shape shape(model.sizes.size(), 1);
-    // Growing in turns keeps matrices nearly square.
-    for (std::size_t turn = 0; !model.parallel->isParallel(shape, count, isContiguous); ++turn) {
+    // Growing in turns keeps matrices nearly square. What has one size only does not grow.
+    for (std::size_t turn = 0; !shape.empty() && !model.parallel->isParallel(shape, count, isContiguous); ++turn) {
         ++shape[turn % shape.size()];
     }
     return shape;

@@ -57,6 +57,7 @@ Operand makeOperand(std::string role, CodeLetter letter, bool isWritten) {
     case Kind::Vector:
         return {std::move(role), letter.kind, letter.isArray, isWritten, Operand::one, 0}; // sizes are len
     case Kind::Constant:
+    case Kind::Results:
         break;
     }
     return {std::move(role), letter.kind, letter.isArray, isWritten, Operand::one, Operand::one};

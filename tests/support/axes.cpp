@@ -67,6 +67,22 @@ const SizeAxes vectorSizes = {
     .special = {{1}, {3}, {5}, {7}, {9}, {15}, {31}},
 };
 
+const SizeAxes summedMatrixSizes = {
+    .all = join({matrixSizes.all, {{64, 2}, {47, 3}, {15, 9}}}),
+    .small = join({aroundUnrolled, {{16, 2}, {17, 3}}}),
+    .tight = matrixSizes.tight,
+    .special = matrixSizes.special,
+};
+
+const SizeAxes orders = {
+    .all = join({lengths(1, 20), {{33}}}),
+    .small = lengths(1, 7),
+    .tight = lengths(1, 9),
+    .special = {{1}, {3}, {4}, {5}, {6}, {7}},
+};
+
+const SizeAxes noSizes = {.all = {{}}, .small = {{}}, .tight = {{}}, .special = {{}}};
+
 std::span<const int> countsOf(const Model &model) {
     // One object; fewer than the lanes of a register of either type; exactly as many; one more; two registers of
     // lanes and a remainder; many.

@@ -18,6 +18,15 @@ extern const SizeAxes matrixSizes;
 /// Shape {len}.
 extern const SizeAxes vectorSizes;
 
+/// Shape {width, height}, for sums over all elements: rows that are split among them.
+extern const SizeAxes summedMatrixSizes;
+
+/// Shape {widthHeight}.
+extern const SizeAxes orders;
+
+/// The empty shape, of functions whose operands have one size only.
+extern const SizeAxes noSizes;
+
 /// The number of objects in an array; {1} for an export without arrays.
 std::span<const int> countsOf(const Model &model);
 

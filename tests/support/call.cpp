@@ -140,10 +140,16 @@ void Call::fill(const Fill &fill) {
 
 void Call::makeArguments() {
     arguments_.clear();
-    for (const PlacedOperand &operand : operands_) {
-        operand.appendArguments(arguments_);
+    const std::size_t beforeSizes = std::min(export_.model.operandsBeforeSizes, operands_.size());
+    for (std::size_t index = 0; index < operands_.size(); ++index) {
+        if (index == beforeSizes) {
+            arguments_.insert(arguments_.end(), shape_.begin(), shape_.end());
+        }
+        operands_[index].appendArguments(arguments_);
     }
-    arguments_.insert(arguments_.end(), shape_.begin(), shape_.end());
+    if (beforeSizes == operands_.size()) {
+        arguments_.insert(arguments_.end(), shape_.begin(), shape_.end());
+    }
     if (export_.model.hasCount) {
         arguments_.emplace_back(count_);
     }
@@ -254,6 +260,12 @@ std::string Call::describeDifference(Arena &arena, const std::byte *at) {
 bool Call::isContiguous() const {
     return std::all_of(operands_.begin(), operands_.end(),
                        [](const PlacedOperand &operand) { return operand.isContiguous(); });
+}
+
+bool Call::splitsSums() const {
+    const Model &model = export_.model;
+    return model.splitsContiguousSums && model.layout != Layout::ElementPointers && isContiguous() &&
+           model.splitsContiguousSums(shape_);
 }
 
 bool Call::isParallel() const {

@@ -67,6 +67,9 @@ public:
     /// Every element stride of the call is the element size.
     bool isContiguous() const;
 
+    /// Whether the contract lets this call sum in the order for contiguous elements.
+    bool splitsSums() const;
+
     /// Whether the contract hands this call to the parallel kernel.
     bool isParallel() const;
 

@@ -20,6 +20,11 @@ public:
     int rows() const { return operand_->rows(); }
     int columns() const { return operand_->columns(); }
 
+    /// Whether strides say that the elements of a row touch.
+    bool isContiguous() const {
+        return hasElementStride(operand_->model(), operand_->form()) && operand_->isContiguous();
+    }
+
     T operator()(int row, int column) const {
         T value;
         std::memcpy(&value, operand_->element(object_, row, column), sizeof value);

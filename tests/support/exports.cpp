@@ -4,6 +4,7 @@
 #include "support/exports.h"
 
 #include "elementwise/add_sub.h"
+#include "products/reductions.h"
 
 #include <lxpm.h>
 
@@ -23,6 +24,12 @@ struct Family {
 constexpr Family families[] = {
     {"Add", describeAddSub},
     {"Sub", describeAddSub},
+    {"DotProduct", describeDotProduct},
+    {"CrossProduct", describeCrossProduct},
+    {"L2Norm", describeL2Norm},
+    {"FrobNorm", describeFrobNorm},
+    {"Trace", describeTrace},
+    {"Transpose", describeTranspose},
 };
 
 Model describe(const ExportName &name) {

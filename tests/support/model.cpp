@@ -6,6 +6,9 @@
 namespace lxpm::test {
 
 Form formOf(const Operand &operand, Layout layout) {
+    if (operand.kind == Kind::Results) {
+        return Form::Bare;
+    }
     if (operand.kind == Kind::Constant && !operand.isArray) {
         return Form::ByValue;
     }
@@ -20,13 +23,18 @@ Form formOf(const Operand &operand, Layout layout) {
     return Form::Strided;
 }
 
+bool hasObjectStride(const Operand &operand, Form form) {
+    return operand.isArray && (form == Form::Strided || form == Form::ElementPointers);
+}
+
 bool hasRowStride(const Operand &operand, Form form) {
     const bool isMatrix = operand.kind == Kind::Matrix || operand.kind == Kind::Transposed;
     return isMatrix && (form == Form::Strided || form == Form::ObjectPointers);
 }
 
 bool hasElementStride(const Operand &operand, Form form) {
-    return operand.kind != Kind::Constant && (form == Form::Strided || form == Form::ObjectPointers);
+    const bool isScalar = operand.kind == Kind::Constant || operand.kind == Kind::Results;
+    return !isScalar && (form == Form::Strided || form == Form::ObjectPointers);
 }
 
 LxpStatus statusOf(Check check) {
@@ -80,6 +88,7 @@ std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, Eleme
     case Form::ByValue:
         parameters.push_back({element, operand.role, ParameterKind::Value});
         break;
+    case Form::Bare:
     case Form::Strided:
         parameters.push_back({pointee + " *", operand.role, ParameterKind::Pointer});
         break;
@@ -89,7 +98,7 @@ std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, Eleme
         parameters.push_back({"int", operand.role + "PtrOffset", ParameterKind::Offset});
         break;
     }
-    if (operand.isArray && form != Form::ObjectPointers) {
+    if (hasObjectStride(operand, form)) {
         parameters.push_back({"int", operand.role + "ObjStride", ParameterKind::Stride});
     }
     if (hasRowStride(operand, form)) {
@@ -103,13 +112,21 @@ std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, Eleme
 
 std::vector<Parameter> parametersOf(const Model &model) {
     std::vector<Parameter> parameters;
-    for (const Operand &operand : model.operands) {
-        for (Parameter &parameter : parametersOf(operand, model.layout, model.type)) {
+    const auto appendSizes = [&] {
+        for (const std::string &size : model.sizes) {
+            parameters.push_back({"int", size, ParameterKind::Size});
+        }
+    };
+    for (std::size_t index = 0; index < model.operands.size(); ++index) {
+        if (index == model.operandsBeforeSizes) {
+            appendSizes();
+        }
+        for (Parameter &parameter : parametersOf(model.operands[index], model.layout, model.type)) {
             parameters.push_back(std::move(parameter));
         }
     }
-    for (const std::string &size : model.sizes) {
-        parameters.push_back({"int", size, ParameterKind::Size});
+    if (model.operandsBeforeSizes >= model.operands.size()) {
+        appendSizes();
     }
     if (model.hasCount) {
         parameters.push_back({"int", "count", ParameterKind::Count});

@@ -31,12 +31,14 @@ constexpr int sizeOf(ElementType type) {
 /// The values of an export's size parameters, in the order of its argument list.
 using Shape = std::vector<int>;
 
-enum class Kind { Matrix, Transposed, Vector, Constant };
+/// Results: one scalar for each object, one behind the other in every layout, which no stride describes.
+enum class Kind { Matrix, Transposed, Vector, Constant, Results };
 
 /// An operand of an export, whatever the layout. `rows` and `columns` are those of the logical object, given as
-/// positions in the export's list of sizes.
+/// positions in the export's list of sizes, or as negative numbers where they are always the same.
 struct Operand {
     static constexpr int one = -1;
+    static constexpr int three = -3;
 
     std::string role;
     Kind kind;
@@ -45,17 +47,18 @@ struct Operand {
     int rows;
     int columns;
 
-    int rowsOf(const Shape &shape) const { return rows == one ? 1 : shape[rows]; }
-    int columnsOf(const Shape &shape) const { return columns == one ? 1 : shape[columns]; }
+    int rowsOf(const Shape &shape) const { return rows < 0 ? -rows : shape[rows]; }
+    int columnsOf(const Shape &shape) const { return columns < 0 ? -columns : shape[columns]; }
 };
 
 /// How the parameters of an operand describe it. A layout does not touch all operands: a single object keeps its
 /// strides among object pointers, an array of constants keeps them among element pointers.
-enum class Form { ByValue, Strided, ObjectPointers, ElementPointers };
+enum class Form { ByValue, Bare, Strided, ObjectPointers, ElementPointers };
 
 Form formOf(const Operand &operand, Layout layout);
 
-/// Whether an operand described in this form has a row stride, an element stride.
+/// Whether an operand described in this form has an object stride, a row stride, an element stride.
+bool hasObjectStride(const Operand &operand, Form form);
 bool hasRowStride(const Operand &operand, Form form);
 bool hasElementStride(const Operand &operand, Form form);
 
@@ -121,6 +124,15 @@ struct Model : ExportName {
     std::optional<ParallelRule> parallel; // none: always serial
     Formula formula;
     const SizeAxes *axes;
+
+    /// How many operands stand in front of the sizes in the argument list; all, if there are as many as that.
+    std::size_t operandsBeforeSizes = 8;
+
+    /// Whether whole numbers as operands give exact results: not where they are squared and summed, or a root is taken.
+    bool isExactForWholeNumbers = true;
+
+    /// Whether a sum goes in another order where the elements of a shape's rows touch. None: there is one order.
+    std::function<bool(const Shape &shape)> splitsContiguousSums = {};
 
     /// A destination may be the very memory of a source of the same shape that is not read transposed.
     bool mayBeInPlace(int source) const;

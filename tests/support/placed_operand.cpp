@@ -37,7 +37,10 @@ PlacedOperand::PlacedOperand(const Operand &operand, Layout layout, ElementType 
     if (form_ == Form::ByValue) {
         return;
     }
-    strides_ = placement.pattern->stridesOf({storedRows_, storedColumns_, objects_, size_});
+    if (form_ == Form::Bare) {
+        placement_.pattern = &dense;
+    }
+    strides_ = placement_.pattern->stridesOf({storedRows_, storedColumns_, objects_, size_});
     if (form_ == Form::ObjectPointers) {
         slots_ = orderOf(objects_, placement.shuffle);
     } else if (form_ == Form::ElementPointers) {
@@ -97,7 +100,7 @@ std::byte *PlacedOperand::element(int object, int row, int column) {
     if (form_ == Form::ByValue) {
         return value_;
     }
-    if (operand_.kind == Kind::Constant) {
+    if (operand_.kind == Kind::Constant || operand_.kind == Kind::Results) {
         row = column = 0;
     } else if (operand_.kind == Kind::Transposed) {
         std::swap(row, column);
@@ -132,6 +135,7 @@ void PlacedOperand::appendArguments(std::vector<Argument> &arguments) const {
             arguments.emplace_back(value);
         }
         return;
+    case Form::Bare:
     case Form::Strided:
         arguments.emplace_back(static_cast<const void *>(base_));
         break;
@@ -141,7 +145,7 @@ void PlacedOperand::appendArguments(std::vector<Argument> &arguments) const {
         arguments.emplace_back(placement_.ptrOffset * size_);
         break;
     }
-    if (operand_.isArray && form_ != Form::ObjectPointers) {
+    if (hasObjectStride(operand_, form_)) {
         arguments.emplace_back(strides_.object);
     }
     if (hasRowStride(operand_, form_)) {
