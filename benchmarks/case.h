@@ -34,5 +34,6 @@ struct Case {
 // The list of all cases. A family appends its own.
 std::vector<Case> allCases();
 void appendAddSub(std::vector<Case> &cases);
+void appendMoving(std::vector<Case> &cases);
 
 } // namespace lxpm::bench

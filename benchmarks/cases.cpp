@@ -8,6 +8,7 @@ namespace lxpm::bench {
 std::vector<Case> allCases() {
     std::vector<Case> cases;
     appendAddSub(cases);
+    appendMoving(cases);
     return cases;
 }
 

@@ -9,7 +9,8 @@
 //                  registers and its end in ever smaller pieces.
 //   transposed     as in registers, but some sources' elements touch down the columns (the middle loop): blocks of 4 by
 //                  4 elements are turned in registers.
-//   one by one     anything else.
+//   one by one     anything else that moves by bytes.
+//   by pointers    each element of a run has a pointer of its own, in one operand or another.
 //
 // Nothing behind the last element of an operand is read or written.
 
@@ -19,9 +20,20 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstring>
+#include <type_traits>
 #include <utility>
 
 namespace lxpm {
+
+// The function of copying. Elements go through registers unchanged, signalling NaN too: loads and stores quieten
+// nothing.
+struct Same {
+    template <class Number>
+    Number operator()(Number a) const {
+        return a;
+    }
+};
 
 // How a source moves along a run: its elements touch, or it is one element, or those of other runs touch, or anything.
 enum class Moves { Along, Nowhere, Across, Any };
@@ -32,8 +44,11 @@ public:
     using Loop = void (*)(const F &, const Nest<T, sources> &);
 
     [[gnu::noinline]] static Loop choose(const Nest<T, sources> &nest) {
+        if (nest.operand.movesThroughPointers(2)) {
+            return byPointers;
+        }
         bool inRegisters = true;
-        bool transposed = nest.isDisjoint;
+        bool transposed = nest.isDisjoint && !nest.operand.movesThroughPointers(1);
         for (const auto &source : nest.operand.src) {
             const Moves moves = movesOf(source);
             inRegisters &= moves == Moves::Along || moves == Moves::Nowhere;
@@ -53,7 +68,7 @@ private:
         if (source.step[2] == sizeof(T) || source.step[2] == 0) {
             return source.step[2] == 0 ? Moves::Nowhere : Moves::Along;
         }
-        return source.step[1] == sizeof(T) && source.pointerStep[1] == 0 ? Moves::Across : Moves::Any;
+        return source.step[1] == sizeof(T) ? Moves::Across : Moves::Any;
     }
 
     // One source along a run.
@@ -80,8 +95,9 @@ private:
     // All runs. Rows, Length: the runs of the middle loop and the elements of a run where their numbers are known
     // beforehand, else 0. What stands inside is forced inline: a call for each run would cost more than the run.
     template <bool registers, int Rows, int Length, Moves... moves, std::size_t... s>
-    [[gnu::always_inline]] static void overRuns(const F &f, const Nest &shared, std::index_sequence<s...>) {
-        const Nest nest = shared; // a copy that no store below can reach, so that it stays in registers
+    [[gnu::always_inline]] static void overRuns(const F &function, const Nest &shared, std::index_sequence<s...>) {
+        const Nest nest = shared; // copies that no store below can reach, so that they stay in registers
+        const F f = function;
         const std::ptrdiff_t rows = Rows != 0 ? Rows : nest.extent[1];
         const std::ptrdiff_t n = Length != 0 ? Length : nest.extent[2];
         const auto &[dst, src] = nest.operand;
@@ -115,6 +131,11 @@ private:
     // has no constant beside it.)
     template <Moves... moves>
     static Loop chooseLength(std::ptrdiff_t n) {
+        if constexpr (std::is_same_v<F, Same> && ((moves == Moves::Along) && ...)) {
+            if (n * std::ptrdiff_t(sizeof(T)) >= longRun) {
+                return asBytes;
+            }
+        }
         switch (n) {
         case 3:
             return inRegisters<3, moves...>;
@@ -143,6 +164,20 @@ private:
     template <int Length, Moves... moves>
     static void inRegisters(const F &f, const Nest &nest) {
         overRuns<true, 0, Length, moves...>(f, nest, Index());
+    }
+
+    // Long runs are copied by the C library, which aligns its stores and streams them past the caches where they are
+    // too many. The destination may be the source.
+    static constexpr std::ptrdiff_t longRun = 256; // bytes
+
+    static void asBytes(const F &, const Nest &shared) {
+        const Nest nest = shared;
+        const auto &[dst, src] = nest.operand;
+        for (std::ptrdiff_t i = 0; i < nest.extent[0]; ++i) {
+            for (std::ptrdiff_t j = 0; j < nest.extent[1]; ++j) {
+                std::memmove(dst.at(i, j, 0), src[0].at(i, j, 0), nest.extent[2] * sizeof(T));
+            }
+        }
     }
 
     template <class... S>
@@ -261,8 +296,9 @@ private:
 
     // Order: of square matrices where it is known beforehand, else 0.
     template <int Order, Moves... moves, std::size_t... s>
-    [[gnu::always_inline]] static void overBlocks(const F &f, const Nest &shared, std::index_sequence<s...>) {
+    [[gnu::always_inline]] static void overBlocks(const F &function, const Nest &shared, std::index_sequence<s...>) {
         const Nest nest = shared;
+        const F f = function;
         const std::ptrdiff_t rows = Order != 0 ? Order : nest.extent[1];
         const std::ptrdiff_t columns = Order != 0 ? Order : nest.extent[2];
         const auto &[dst, src] = nest.operand;
@@ -373,16 +409,42 @@ private:
 
     template <int Rows, int Length>
     static void oneByOne(const F &f, const Nest &nest) {
-        if constexpr (sources == 1) {
-            overRuns<false, Rows, Length, Moves::Any>(f, nest, Index());
-        } else {
-            overRuns<false, Rows, Length, Moves::Any, Moves::Any>(f, nest, Index());
+        overAnyRuns<Rows, Length>(f, nest, Index());
+    }
+
+    template <int Rows, int Length, std::size_t... s>
+    [[gnu::always_inline]] static void overAnyRuns(const F &f, const Nest &nest, std::index_sequence<s...>) {
+        overRuns<false, Rows, Length, anyMoves[s]...>(f, nest, Index());
+    }
+
+    static constexpr std::array<Moves, sources> anyMoves = [] {
+        std::array<Moves, sources> all;
+        all.fill(Moves::Any);
+        return all;
+    }();
+
+    static void byPointers(const F &f, const Nest &nest) {
+        overPointers(f, nest, Index());
+    }
+
+    template <std::size_t... s>
+    [[gnu::always_inline]] static void overPointers(const F &function, const Nest &nest, std::index_sequence<s...>) {
+        const F f = function;
+        const auto extent = nest.extent;
+        for (std::ptrdiff_t i = 0; i < extent[0]; ++i) {
+            for (std::ptrdiff_t j = 0; j < extent[1]; ++j) {
+                const auto run = nest.operand.from(i, j);
+                for (std::ptrdiff_t k = 0; k < extent[2]; ++k) {
+                    *run.dst.at(0, 0, k) = f(*run.src[s].at(0, 0, k)...);
+                }
+            }
         }
     }
 
     template <class... S>
     [[gnu::always_inline]] static void runOneByOne(const F &f, std::ptrdiff_t n, T *dst, std::ptrdiff_t step,
                                                    const S &...src) {
+#pragma GCC unroll 4
         for (std::ptrdiff_t i = 0; i < n; ++i) {
             *shifted(dst, i * step) = f(src.template elements<1>(i)...);
         }

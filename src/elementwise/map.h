@@ -18,6 +18,14 @@ namespace lxpm {
 
 // Where the objects of an element-pointer layout stand apart, the runs of all their elements pass through the same
 // cache lines. They are taken in pieces that leave these lines in the first cache.
+template <class T, std::size_t sources>
+bool isScattered(const Nest<T, sources> &nest) {
+    const Addresses<T> &dst = nest.operand.dst;
+    // Runs through pointers may be the rows of one object, which keep their order unless they are known to be apart.
+    const bool mayBeCut = !nest.operand.movesThroughPointers(2) || (nest.isDisjoint && dst.pointerStep[1] == 0);
+    return nest.operand.movesThroughPointers(1) && dst.step[2] != sizeof(T) && mayBeCut;
+}
+
 template <class T, class F, std::size_t sources>
 void mapScattered(const F &f, Nest<T, sources> nest) {
     constexpr std::ptrdiff_t piece = 128;
@@ -106,13 +114,14 @@ template <class T, class F, std::size_t sources>
 void mapObjects(const F &f, const Extents &extents, const MapOperands<T, sources> &operands) {
     constexpr std::ptrdiff_t fewElements = 64; // of a single object: not worth a look at its memory
     Nest<T, sources> nest(extents, operands);
-    if (extents.objects == 1 && extents.rows * extents.columns <= fewElements && !operands.movesThroughPointers(2)) {
+    if (extents.objects == 1 && extents.rows * extents.columns <= fewElements) {
         nest.isDisjoint = false;
         Loops<T, F, sources>::choose(nest)(f, nest);
         return;
     }
+    nest.straighten();
     nest.arrange();
-    if (nest.operand.movesThroughPointers(1) && nest.operand.dst.step[2] != sizeof(T)) {
+    if (isScattered(nest)) {
         mapScattered(f, nest);
     } else if (const std::size_t tiled = Tiling<T, sources>::sourceOf(nest); tiled != Tiling<T, sources>::none) {
         Tiling<T, sources>::map(f, nest, tiled);

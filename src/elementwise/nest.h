@@ -9,6 +9,9 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
 #include <utility>
 
 namespace lxpm {
@@ -45,7 +48,7 @@ struct MapOperands {
 };
 
 // Three loops, the outermost first, and the operands with their steps in the same order. When arranged, the innermost
-// loop moves by bytes alone; loops that a call does not need take one step and stand outside.
+// loop moves by bytes alone if any does; loops that a call does not need take one step and stand outside.
 template <class T, std::size_t sources>
 struct Nest {
     std::array<std::ptrdiff_t, 3> extent;
@@ -55,6 +58,11 @@ struct Nest {
     // In natural order.
     Nest(const Extents &loops, const MapOperands<T, sources> &operands)
         : extent{loops.objects, loops.rows, loops.columns}, operand(operands) {}
+
+    // An operand whose pointers stand evenly apart is a strided one, and may be arranged as such. In natural order.
+    void straighten() {
+        forEachOperand([this](auto &o) { this->straighten(o); });
+    }
 
     // Nests the loops as the memory likes best.
     void arrange() {
@@ -73,15 +81,16 @@ struct Nest {
         merge(2);
         merge(2);
         merge(1);
-        if (operand.movesThroughPointers(2)) { // no loop by bytes: the one of a single step becomes the innermost
-            exchange(0, 1);
-            exchange(1, 2);
-        }
     }
 
     // Begins n steps of a loop later.
     void advance(int loop, std::ptrdiff_t n) {
-        forEachOperand([=](auto &o) { o.offset += n * o.step[loop]; });
+        forEachOperand([=](auto &o) {
+            o.offset += n * o.step[loop];
+            if (o.pointers != nullptr) {
+                o.pointers += n * o.pointerStep[loop];
+            }
+        });
     }
 
     // Takes n steps of a loop at a time.
@@ -96,6 +105,46 @@ private:
         for (auto &source : operand.src) {
             f(source);
         }
+    }
+
+    template <class Element>
+    void straighten(Addresses<Element> &o) const {
+        if (o.pointers == nullptr) {
+            return;
+        }
+        // Object pointers move in the outermost loop alone, element pointers in the other two.
+        const int inner = o.pointerStep[0] != 0 ? 0 : 2;
+        const std::ptrdiff_t lines = inner == 0 ? 1 : extent[1];
+        // Further apart than any stride leads, or backwards, they are left alone; so are a destination's that meet.
+        constexpr std::ptrdiff_t closest = std::is_const_v<Element> ? 0 : sizeof(Element);
+        constexpr std::ptrdiff_t furthest = std::numeric_limits<int>::max();
+        Steps step = o.step;
+        for (const int loop : {inner, 1}) {
+            if (o.pointerStep[loop] != 0 && extent[loop] > 1) {
+                step[loop] = distance(o.pointers[0], o.pointers[o.pointerStep[loop]]);
+                if (step[loop] < closest || step[loop] > furthest) {
+                    return;
+                }
+            }
+        }
+        for (std::ptrdiff_t line = 0; line < lines; ++line) {
+            Element *const *pointer = o.pointers + line * o.pointerStep[1];
+            if (distance(o.pointers[0], *pointer) != line * (lines > 1 ? step[1] : 0)) {
+                return;
+            }
+            for (std::ptrdiff_t i = 1; i < extent[inner]; ++i, pointer += o.pointerStep[inner]) {
+                if (distance(pointer[0], pointer[o.pointerStep[inner]]) != step[inner]) {
+                    return;
+                }
+            }
+        }
+        o = Addresses<Element>::strided(shifted(o.pointers[0], o.offset), step);
+    }
+
+    template <class Element>
+    static std::ptrdiff_t distance(Element *from, Element *to) {
+        return static_cast<std::ptrdiff_t>(reinterpret_cast<std::uintptr_t>(to) -
+                                           reinterpret_cast<std::uintptr_t>(from));
     }
 
     // Loops of a single step stand outermost, then those through pointers, then those by bytes.

@@ -12,6 +12,10 @@
 #include "products/l2_norm.h"
 #include "products/trace.h"
 #include "products/transpose.h"
+#include "elementwise/copy.h"
+#include "elementwise/extract.h"
+#include "elementwise/load_identity.h"
+#include "elementwise/saxpy_lcomb.h"
 #include "runtime/entry.h"
 #include "runtime/version.h"
 

@@ -18,6 +18,10 @@
 #define ARRAY(operation, code) ARRAY_OF(operation, code, 32f) ARRAY_OF(operation, code, 64f)
 #define SINGLE(operation, code) SINGLE_OF(operation, code, 32f) SINGLE_OF(operation, code, 64f)
 
+// COPY: an array in each pair of layouts, the source's first. A member's operation names the layout of the destination.
+#define COPY(code) COPY_OF(code, 32f) COPY_OF(code, 64f)
+#define COPY_OF(code, type) COPY_FROM(S, code, type) COPY_FROM(L, code, type) COPY_FROM(P, code, type)
+
 // clang-format off
 #define ARRAY_OF(operation, code, type)                                      \
     MEMBER(operation, code, type, S, lxpm##operation##_##code##_##type)      \
@@ -26,6 +30,10 @@
 #define SINGLE_OF(operation, code, type)                                     \
     MEMBER(operation, code, type, S, lxpm##operation##_##code##_##type)      \
     MEMBER(operation, code, type, P, lxpm##operation##_##code##_##type##_P)
+#define COPY_FROM(layout, code, type)                                        \
+    MEMBER(CopyToS, code, type, layout, lxpmCopy_##code##_##type##_##layout##S)  \
+    MEMBER(CopyToL, code, type, layout, lxpmCopy_##code##_##type##_##layout##L)  \
+    MEMBER(CopyToP, code, type, layout, lxpmCopy_##code##_##type##_##layout##P)
 // clang-format on
 
 // SMALL_VECTORS: an operation on plain vectors of 2, 3 and 4 elements, outside of all families.
@@ -56,6 +64,10 @@ EXPORT(lxpmTranspose_m4_32f)
 EXPORT(lxpmDet_m4_32f)
 EXPORT(lxpmInvert_m4_32f)
 #include "graphics/graphics.list.h"
+#include "elementwise/copy.list.h"
+#include "elementwise/extract.list.h"
+#include "elementwise/load_identity.list.h"
+#include "elementwise/saxpy_lcomb.list.h"
 // clang-format on
 EXPORT(lxpmGetLibVersion)
 #endif
@@ -65,5 +77,8 @@ EXPORT(lxpmGetLibVersion)
 #undef ARRAY_OF
 #undef SINGLE_OF
 #undef SMALL_VECTORS
+#undef COPY
+#undef COPY_OF
+#undef COPY_FROM
 #undef MEMBER
 #undef EXPORT

@@ -43,6 +43,7 @@ struct Lanes {
     friend Lanes operator+(Lanes a, Lanes b) { return {a.vector + b.vector}; }
     friend Lanes operator-(Lanes a, Lanes b) { return {a.vector - b.vector}; }
     friend Lanes operator*(Lanes a, Lanes b) { return {a.vector * b.vector}; }
+    friend Lanes operator*(T a, Lanes b) { return splat(a) * b; }
     friend Lanes operator/(Lanes a, Lanes b) { return {a.vector / b.vector}; }
 };
 

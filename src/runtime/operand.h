@@ -171,6 +171,9 @@ public:
         }
     }
 
+    // A constant by value.
+    constexpr Value value() const requires(form == Form::Value) { return lead; }
+
     // Where the elements stand, in rows and columns of the operation: those of a transposed operand are exchanged here
     // and nowhere else. A constant by value is its own address, so the operand has to outlive the addresses.
     constexpr Addresses<Element> addresses([[maybe_unused]] int height = 1, [[maybe_unused]] int width = 1) const {
@@ -214,6 +217,23 @@ private:
 
     Lead lead;
     std::array<int, integers> integer;
+};
+
+// A destination in plain dense memory, which its first element's address describes: no gaps between elements, rows and
+// objects.
+template <class Element>
+struct DenseDestination {
+    using Parameters = TypeList<Element *>;
+    Element *first;
+
+    explicit constexpr DenseDestination(Element *address) : first(address) {}
+
+    constexpr bool violates(Check check) const { return check == Check::Pointers && first == nullptr; }
+
+    constexpr Addresses<Element> addresses(int height, int width) const {
+        const std::ptrdiff_t row = std::ptrdiff_t(width) * std::ptrdiff_t(sizeof(Element));
+        return Addresses<Element>::strided(first, {height * row, row, sizeof(Element)});
+    }
 };
 
 // The sizes of a call.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "checks/checks.h"
+#include "checks/parallel_sizes.h"
 #include "support/call.h"
 #include "support/thread_count.h"
 
@@ -27,6 +28,7 @@ std::vector<Argument> badValues(ParameterKind kind, int elementSize) {
     case ParameterKind::Size:
         return {0, -1, INT_MIN};
     case ParameterKind::Stride:
+    case ParameterKind::LateStride:
         // None; backwards; not a multiple of the element size, below and above it; both; the value whose negative
         // does not exist.
         return {0, -elementSize, elementSize / 2, elementSize + elementSize / 2, 1, -1, INT_MIN};
@@ -109,7 +111,8 @@ Report checkStatus(const Export &item) {
     const Shape &shape = item.model.axes->small.back();
 
     FaultyCall call(item, shape, 2, report);
-    FaultyCall large(item, shape, 2000, report); // above every limit: the choice of kernel comes after the checks
+    // Above the limit: the choice of kernel comes after the checks.
+    FaultyCall large(item, shape, item.model.parallel ? firstParallelCount(item.model, shape, true) : 1, report);
     for (const Fault &fault : faults) {
         call.verify({fault});
         large.verify({fault});

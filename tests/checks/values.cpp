@@ -143,12 +143,14 @@ Report checkInPlace(const Export &item) {
             call.verifyResults(report);
 
             // All operands at once, where both sources may be the destination.
-            if (source == 1 && item.model.mayBeInPlace(0)) {
-                Call onItself(item, at.shape, at.count, placements);
-                onItself.readTwice(1, 0);
-                onItself.writeInPlaceOf(1);
-                onItself.fill(distinctValues(item.model.type));
-                onItself.verifyResults(report);
+            for (int earlier = 0; earlier < source; ++earlier) {
+                if (item.model.mayBeInPlace(earlier)) {
+                    Call onItself(item, at.shape, at.count, placements);
+                    onItself.readTwice(source, earlier);
+                    onItself.writeInPlaceOf(source);
+                    onItself.fill(distinctValues(item.model.type));
+                    onItself.verifyResults(report);
+                }
             }
         }
     }

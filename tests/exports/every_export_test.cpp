@@ -146,7 +146,14 @@ TEST(Coverage, TheListHasAllExports) {
                                                    {"L2Norm", 10},
                                                    {"FrobNorm", 10},
                                                    {"Trace", 10},
-                                                   {"Transpose", 10}}));
+                                                   {"Transpose", 10},
+                                                   {"CopyToS", 12},
+                                                   {"CopyToL", 12},
+                                                   {"CopyToP", 12},
+                                                   {"Extract", 30},
+                                                   {"LoadIdentity", 6},
+                                                   {"Saxpy", 22},
+                                                   {"LComb", 16}}));
     // Without a family: lxpmGetLibVersion.
     EXPECT_EQ(exportNames().size(), familyExports().size() + graphicsExports().size() + 1);
 }

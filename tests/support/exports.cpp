@@ -5,6 +5,8 @@
 
 #include "elementwise/add_sub.h"
 #include "products/reductions.h"
+#include "elementwise/moving.h"
+#include "elementwise/saxpy_lcomb.h"
 
 #include <lxpm.h>
 
@@ -30,6 +32,13 @@ constexpr Family families[] = {
     {"FrobNorm", describeFrobNorm},
     {"Trace", describeTrace},
     {"Transpose", describeTranspose},
+    {"CopyToS", describeCopy},
+    {"CopyToL", describeCopy},
+    {"CopyToP", describeCopy},
+    {"Extract", describeExtract},
+    {"LoadIdentity", describeLoadIdentity},
+    {"Saxpy", describeSaxpyLComb},
+    {"LComb", describeSaxpyLComb},
 };
 
 Model describe(const ExportName &name) {

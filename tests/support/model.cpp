@@ -7,12 +7,15 @@ namespace lxpm::test {
 
 Form formOf(const Operand &operand, Layout layout) {
     if (operand.kind == Kind::Results) {
-        return Form::Bare;
+        return Form::Dense;
     }
     if (operand.kind == Kind::Constant && !operand.isArray) {
         return Form::ByValue;
     }
-    switch (layout) {
+    if (operand.isDense) {
+        return Form::Dense;
+    }
+    switch (operand.ownLayout.value_or(layout)) {
     case Layout::ObjectPointers:
         return operand.isArray ? Form::ObjectPointers : Form::Strided;
     case Layout::ElementPointers:
@@ -46,6 +49,7 @@ LxpStatus statusOf(Check check) {
     case Check::Sizes:
         return lxpStatusSizeErr;
     case Check::Strides:
+    case Check::LateStrides:
         return lxpStatusStrideErr;
     case Check::Offsets:
         return lxpStatusRoiShiftErr;
@@ -59,6 +63,8 @@ std::optional<Check> checkOf(ParameterKind kind) {
         return Check::Pointers;
     case ParameterKind::Stride:
         return Check::Strides;
+    case ParameterKind::LateStride:
+        return Check::LateStrides;
     case ParameterKind::Offset:
         return Check::Offsets;
     case ParameterKind::Size:
@@ -75,7 +81,7 @@ bool Model::mayBeInPlace(int source) const {
     const Operand &from = operands[source];
     const Operand &to = operands.back();
     return !from.isWritten && from.kind == to.kind && from.isArray == to.isArray && from.rows == to.rows &&
-           from.columns == to.columns;
+           from.columns == to.columns && formOf(from, layout) == formOf(to, layout);
 }
 
 std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, ElementType type) {
@@ -88,7 +94,7 @@ std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, Eleme
     case Form::ByValue:
         parameters.push_back({element, operand.role, ParameterKind::Value});
         break;
-    case Form::Bare:
+    case Form::Dense:
     case Form::Strided:
         parameters.push_back({pointee + " *", operand.role, ParameterKind::Pointer});
         break;
@@ -99,7 +105,8 @@ std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, Eleme
         break;
     }
     if (hasObjectStride(operand, form)) {
-        parameters.push_back({"int", operand.role + "ObjStride", ParameterKind::Stride});
+        parameters.push_back({"int", operand.role + "ObjStride",
+                              operand.isObjStrideLate ? ParameterKind::LateStride : ParameterKind::Stride});
     }
     if (hasRowStride(operand, form)) {
         parameters.push_back({"int", operand.role + "RowStride", ParameterKind::Stride});

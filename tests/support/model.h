@@ -46,6 +46,9 @@ struct Operand {
     bool isWritten;
     int rows;
     int columns;
+    std::optional<Layout> ownLayout = {}; // where the operands of an export differ in layout
+    bool isDense = false;                 // plain dense memory, described by its first element's address alone
+    bool isObjStrideLate = false;         // checked apart from the other strides, and only where count > 1
 
     int rowsOf(const Shape &shape) const { return rows < 0 ? -rows : shape[rows]; }
     int columnsOf(const Shape &shape) const { return columns < 0 ? -columns : shape[columns]; }
@@ -53,7 +56,7 @@ struct Operand {
 
 /// How the parameters of an operand describe it. A layout does not touch all operands: a single object keeps its
 /// strides among object pointers, an array of constants keeps them among element pointers.
-enum class Form { ByValue, Bare, Strided, ObjectPointers, ElementPointers };
+enum class Form { ByValue, Dense, Strided, ObjectPointers, ElementPointers };
 
 Form formOf(const Operand &operand, Layout layout);
 
@@ -62,7 +65,7 @@ bool hasObjectStride(const Operand &operand, Form form);
 bool hasRowStride(const Operand &operand, Form form);
 bool hasElementStride(const Operand &operand, Form form);
 
-enum class ParameterKind { Value, Pointer, Stride, Offset, Size, Count };
+enum class ParameterKind { Value, Pointer, Stride, LateStride, Offset, Size, Count };
 
 struct Parameter {
     std::string type; // as C++ spells it: "const float *const *"
@@ -70,7 +73,7 @@ struct Parameter {
     ParameterKind kind;
 };
 
-enum class Check { Pointers, Count, Sizes, Strides, Offsets };
+enum class Check { Pointers, Count, Sizes, Strides, Offsets, LateStrides };
 
 LxpStatus statusOf(Check check);
 
@@ -134,7 +137,7 @@ struct Model : ExportName {
     /// Whether a sum goes in another order where the elements of a shape's rows touch. None: there is one order.
     std::function<bool(const Shape &shape)> splitsContiguousSums = {};
 
-    /// A destination may be the very memory of a source of the same shape that is not read transposed.
+    /// A destination may be the very memory of a source of the same shape and layout that is not read transposed.
     bool mayBeInPlace(int source) const;
 };
 

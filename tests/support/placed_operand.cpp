@@ -37,7 +37,7 @@ PlacedOperand::PlacedOperand(const Operand &operand, Layout layout, ElementType 
     if (form_ == Form::ByValue) {
         return;
     }
-    if (form_ == Form::Bare) {
+    if (form_ == Form::Dense) {
         placement_.pattern = &dense;
     }
     strides_ = placement_.pattern->stridesOf({storedRows_, storedColumns_, objects_, size_});
@@ -135,7 +135,7 @@ void PlacedOperand::appendArguments(std::vector<Argument> &arguments) const {
             arguments.emplace_back(value);
         }
         return;
-    case Form::Bare:
+    case Form::Dense:
     case Form::Strided:
         arguments.emplace_back(static_cast<const void *>(base_));
         break;

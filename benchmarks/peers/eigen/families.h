@@ -8,5 +8,6 @@ namespace lxpm::bench::eigen {
 
 // Each appends the kernels of a family.
 void addAddSub(PeerTable &table);
+void addMoving(PeerTable &table);
 
 } // namespace lxpm::bench::eigen

@@ -7,6 +7,7 @@ extern "C" const lxpm::bench::PeerTable *LXPM_PEER_TABLE() {
     static const lxpm::bench::PeerTable all = [] {
         lxpm::bench::PeerTable table;
         lxpm::bench::eigen::addAddSub(table);
+        lxpm::bench::eigen::addMoving(table);
         return table;
     }();
     return &all;
