@@ -34,6 +34,7 @@
 
 #include <lxpm/elementwise.h>
 #include <lxpm/graphics.h>
+#include <lxpm/products.h>
 #include <lxpm/reductions.h>
 #include <lxpm/types.h>
 #include <lxpm/version.h>

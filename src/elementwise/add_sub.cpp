@@ -3,8 +3,8 @@
 
 #include "elementwise/add_sub.h"
 
-#include "elementwise/map.h"
 #include "runtime/entry_call.h"
+#include "runtime/map.h"
 #include "runtime/rows.h"
 #include "runtime/work.h"
 

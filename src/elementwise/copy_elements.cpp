@@ -3,7 +3,7 @@
 
 #include "elementwise/copy_elements.h"
 
-#include "elementwise/map.h"
+#include "runtime/map.h"
 
 namespace lxpm {
 

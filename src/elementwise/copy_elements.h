@@ -4,7 +4,7 @@
 
 // The kernel of the copying families.
 
-#include "elementwise/nest.h"
+#include "runtime/nest.h"
 
 #include <lxpm/types.h>
 

@@ -3,9 +3,9 @@
 
 #include "elementwise/saxpy_lcomb.h"
 
-#include "elementwise/map.h"
 #include "elementwise/threshold.h"
 #include "runtime/entry_call.h"
+#include "runtime/map.h"
 
 namespace lxpm {
 

@@ -51,7 +51,9 @@
 SMALL_VECTORS(Add)
 #include "elementwise/sub.list.h"
 SMALL_VECTORS(Sub)
+#include "products/mul.list.h"
 EXPORT(lxpmMul_mm4x4_32f)
+#include "products/gaxpy.list.h"
 #include "products/dot_product.list.h"
 SMALL_VECTORS(DotProduct)
 #include "products/cross_product.list.h"

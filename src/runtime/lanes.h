@@ -14,6 +14,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <immintrin.h>
+#include <utility>
 
 namespace lxpm {
 
@@ -32,12 +33,12 @@ struct Lanes {
 
     static Lanes load(const T *from) { return {reinterpret_cast<const Unaligned *>(from)->vector}; }
     void store(T *to) const { reinterpret_cast<Unaligned *>(to)->vector = vector; }
+    // One broadcast: as a list, not as a loop, of which the compiler would make insertions where it unrolls another.
     static Lanes splat(T value) {
-        Lanes lanes;
-        for (int i = 0; i < N; ++i) { // one broadcast instruction
-            lanes.vector[i] = value;
+        return [value]<std::size_t... lane>(std::index_sequence<lane...>) __attribute__((always_inline)) {
+            return Lanes{Vector{((void)lane, value)...}};
         }
-        return lanes;
+        (std::make_index_sequence<N>());
     }
 
     friend Lanes operator+(Lanes a, Lanes b) { return {a.vector + b.vector}; }
@@ -154,6 +155,10 @@ inline Lanes<float, 8> joined(Lanes<float, 4> low, Lanes<float, 4> high) {
     return {_mm256_insertf128_ps(_mm256_castps128_ps256(low.vector), high.vector, 1)};
 }
 
+inline Lanes<float, 8> bothHalves(const float *from) {
+    return {_mm256_broadcast_ps(reinterpret_cast<const __m128 *>(from))};
+}
+
 inline Lanes<float, 4> lowHalf(Lanes<float, 8> lanes) {
     return {_mm256_castps256_ps128(lanes.vector)};
 }
@@ -263,6 +268,12 @@ inline float sumOverLanes(Lanes<float, 8> x) {
 inline double sumOverLanes(Lanes<double, 4> x) {
     const __m128d halves = _mm_add_pd(_mm256_castpd256_pd128(x.vector), _mm256_extractf128_pd(x.vector, 1));
     return _mm_cvtsd_f64(_mm_add_sd(halves, _mm_unpackhi_pd(halves, halves)));
+}
+
+// In each half, the lanes a, b, c, d of that half.
+template <int a, int b, int c, int d>
+inline Lanes<float, 8> chosenInHalves(Lanes<float, 8> lanes) {
+    return {_mm256_permute_ps(lanes.vector, a | b << 2 | c << 4 | d << 6)};
 }
 
 } // namespace lxpm

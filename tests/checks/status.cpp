@@ -40,13 +40,18 @@ std::vector<Argument> badValues(ParameterKind kind, int elementSize) {
     return {};
 }
 
-std::vector<Fault> faultsOf(const Model &model) {
+std::vector<Fault> faultsOf(const Model &model, const Shape &shape) {
     const std::vector<Parameter> parameters = parametersOf(model);
     std::vector<Fault> faults;
     for (std::size_t index = 0; index < parameters.size(); ++index) {
         const std::optional<Check> check = checkOf(parameters[index].kind);
         for (const Argument &value : badValues(parameters[index].kind, sizeOf(model.type))) {
             faults.push_back({index, value, *check});
+        }
+        if (parameters[index].kind == ParameterKind::Size && model.mustAgree(parameters[index].size)) {
+            for (const int value : {shape[parameters[index].size] + 1, shape[parameters[index].size] - 1, INT_MAX}) {
+                faults.push_back({index, value, Check::SizeMatch});
+            }
         }
     }
     return faults;
@@ -107,8 +112,8 @@ private:
 
 Report checkStatus(const Export &item) {
     Report report;
-    const std::vector<Fault> faults = faultsOf(item.model);
     const Shape &shape = item.model.axes->small.back();
+    const std::vector<Fault> faults = faultsOf(item.model, shape);
 
     FaultyCall call(item, shape, 2, report);
     // Above the limit: the choice of kernel comes after the checks.
@@ -128,7 +133,9 @@ Report checkStatus(const Export &item) {
     }
     for (std::size_t first = 0; first < faults.size(); ++first) {
         for (std::size_t second = first + 1; second < faults.size() && !report.isFull(); ++second) {
-            if (faults[first].parameter != faults[second].parameter) {
+            // Two sizes that are wrong in the same way may agree.
+            const bool mayAgree = faults[first].check == Check::SizeMatch && faults[second].check == Check::SizeMatch;
+            if (faults[first].parameter != faults[second].parameter && !mayAgree) {
                 call.verify({faults[first], faults[second]});
             }
         }
@@ -138,6 +145,9 @@ Report checkStatus(const Export &item) {
     std::map<Check, Fault> representatives;
     for (const Fault &fault : faults) {
         representatives.emplace(fault.check, fault);
+        if (fault.check == Check::SizeMatch) {
+            representatives.at(fault.check) = fault; // the last one: the first may be the parameter of a wrong size
+        }
     }
     for (unsigned set = 1; set < 1u << representatives.size(); ++set) {
         std::vector<Fault> chosen;

@@ -224,7 +224,8 @@ Model describeAddSub(const ExportName &name) {
         std::swap(model.operands[0], model.operands[1]);
         std::swap(firstAt, secondAt);
     }
-    model.sizes = isMatrix ? std::vector<std::string>{"width", "height"} : std::vector<std::string>{"len"};
+    model.sizes = isMatrix ? std::vector<SizeParameter>{{"width", 0, 2}, {"height", 1, 2}}
+                           : std::vector<SizeParameter>{{"len", 0, 2}};
     model.axes = isMatrix ? &matrixSizes : &vectorSizes;
     model.order = hasArray ? orderOfArrays(name) : orderOfSingles(name);
     if (hasArray) {

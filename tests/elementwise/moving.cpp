@@ -33,11 +33,13 @@ Operand makeOperand(const char *role, Kind kind, bool isArray, bool isWritten) {
     return {role, kind, isArray, isWritten, kind == Kind::Vector ? Operand::one : 1, 0};
 }
 
-/// Without operands and order of checks.
-Model makeModel(const ExportName &name, Kind kind, bool hasCount) {
+/// Without order of checks.
+Model makeModel(const ExportName &name, Kind kind, bool hasCount, std::vector<Operand> operands) {
     const bool isVector = kind == Kind::Vector;
-    Model model = {name, {}, {}, hasCount, {}, {}, {}, nullptr};
-    model.sizes = isVector ? std::vector<std::string>{"len"} : std::vector<std::string>{"width", "height"};
+    const int last = static_cast<int>(operands.size()) - 1;
+    Model model = {name, std::move(operands), {}, hasCount, {}, {}, {}, nullptr};
+    model.sizes = isVector ? std::vector<SizeParameter>{{"len", 0, last}}
+                           : std::vector<SizeParameter>{{"width", 0, last}, {"height", 1, last}};
     model.axes = isVector ? &vectorSizes : &matrixSizes;
     return model;
 }
@@ -95,8 +97,8 @@ ParallelRule movedElements(std::vector<Operand> operands) {
 Model describeCopy(const ExportName &name) {
     using enum Check;
     const Kind kind = kindOf(name.code);
-    Model model = makeModel(name, kind, true);
-    model.operands = {makeOperand("src", kind, true, false), makeOperand("dst", kind, true, true)};
+    Model model =
+        makeModel(name, kind, true, {makeOperand("src", kind, true, false), makeOperand("dst", kind, true, true)});
     model.operands.back().ownLayout = layoutOfDestination(name.operation);
     for (Operand &operand : model.operands) {
         operand.isObjStrideLate = formOf(operand, name.layout) == Form::ElementPointers;
@@ -112,9 +114,9 @@ Model describeExtract(const ExportName &name) {
     const Kind kind = kindOf(name.code);
     const bool isArray = name.code.size() == 2;
     const bool isStrided = name.layout == Layout::Strided;
-    Model model = makeModel(name, kind, isArray);
-    model.operands = {makeOperand("src", kind, isArray, false),
-                      makeOperand("dst", kind == Kind::Vector ? Kind::Vector : Kind::Matrix, isArray, true)};
+    Model model = makeModel(name, kind, isArray,
+                            {makeOperand("src", kind, isArray, false),
+                             makeOperand("dst", kind == Kind::Vector ? Kind::Vector : Kind::Matrix, isArray, true)});
     model.operands.back().isDense = true;
     model.formula = copying();
     if (isArray) {
@@ -130,8 +132,7 @@ Model describeExtract(const ExportName &name) {
 
 Model describeLoadIdentity(const ExportName &name) {
     using enum Check;
-    Model model = makeModel(name, Kind::Matrix, true);
-    model.operands = {makeOperand("dst", Kind::Matrix, true, true)};
+    Model model = makeModel(name, Kind::Matrix, true, {makeOperand("dst", Kind::Matrix, true, true)});
     model.order = {Pointers, Sizes, Count, Strides, Offsets};
     model.parallel = movedElements(model.operands);
     model.formula = identity();

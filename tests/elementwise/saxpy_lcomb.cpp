@@ -84,7 +84,7 @@ Model describeSaxpyLComb(const ExportName &name) {
                           constant("val2"), vector("dst", hasArray, true)};
         model.formula = linearCombination();
     }
-    model.sizes = {"len"};
+    model.sizes = {{"len", 0, static_cast<int>(model.operands.size()) - 1}};
     model.axes = &vectorSizes;
     model.order = {Pointers, Count, Sizes, Strides, Offsets};
     if (hasArray) {

@@ -141,6 +141,8 @@ TEST(Coverage, TheListHasAllExports) {
     }
     EXPECT_EQ(exports, (std::map<std::string, int>{{"Add", 92},
                                                    {"Sub", 154},
+                                                   {"Mul", 174},
+                                                   {"Gaxpy", 16},
                                                    {"DotProduct", 16},
                                                    {"CrossProduct", 22},
                                                    {"L2Norm", 10},

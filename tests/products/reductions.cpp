@@ -201,7 +201,7 @@ Model describeDotProduct(const ExportName &name) {
     Model model = modelOf(name);
     const bool secondIsArray = name.code == "vava";
     model.operands = {vectorOf("src1", model.hasCount, 0), vectorOf("src2", secondIsArray, 0), results(model.hasCount)};
-    model.sizes = {"len"};
+    model.sizes = {{"len", 0, 2}};
     model.axes = &vectorSizes;
     model.formula = formula(InnerProduct());
     model.isExactForWholeNumbers = false;
@@ -249,7 +249,7 @@ Model describeCrossProduct(const ExportName &name) {
 Model describeL2Norm(const ExportName &name) {
     Model model = modelOf(name);
     model.operands = {vectorOf("src", model.hasCount, 0), results(model.hasCount)};
-    model.sizes = {"len"};
+    model.sizes = {{"len", 0, 1}};
     model.axes = &vectorSizes;
     model.formula = formula(Norm());
     model.isExactForWholeNumbers = false;
@@ -264,8 +264,7 @@ Model describeL2Norm(const ExportName &name) {
 Model describeFrobNorm(const ExportName &name) {
     Model model = modelOf(name);
     model.operands = {matrixOf("src", model.hasCount, 1, 0), results(model.hasCount)};
-    model.sizes = {"width", "height"};
-    model.operandsBeforeSizes = 1;
+    model.sizes = {{"width", 0, 0}, {"height", 1, 0}};
     model.axes = &summedMatrixSizes;
     model.formula = formula(Norm());
     model.isExactForWholeNumbers = false;
@@ -282,8 +281,7 @@ Model describeFrobNorm(const ExportName &name) {
 Model describeTrace(const ExportName &name) {
     Model model = modelOf(name);
     model.operands = {matrixOf("src", model.hasCount, 0, 0), results(model.hasCount)};
-    model.sizes = {"widthHeight"};
-    model.operandsBeforeSizes = 1;
+    model.sizes = {{"widthHeight", 0, 0}};
     model.axes = &orders;
     model.formula = formula(SumOfDiagonal());
     if (model.hasCount) {
@@ -296,8 +294,7 @@ Model describeTrace(const ExportName &name) {
 Model describeTranspose(const ExportName &name) {
     Model model = modelOf(name);
     model.operands = {matrixOf("src", model.hasCount, 1, 0), matrixOf("dst", model.hasCount, 0, 1, true)};
-    model.sizes = {"width", "height"};
-    model.operandsBeforeSizes = 1;
+    model.sizes = {{"width", 0, 0}, {"height", 1, 0}};
     model.axes = &matrixSizes;
     model.formula = formula(Transposed());
     return model;

@@ -33,6 +33,23 @@ std::vector<Shape> squares(int first, int last) {
     return all;
 }
 
+std::vector<Shape> cubes(int first, int last) {
+    std::vector<Shape> all;
+    for (int order = first; order <= last; ++order) {
+        all.push_back({order, order, order});
+    }
+    return all;
+}
+
+// Products of three sizes, each of them 1 or another, and each of the unrolled orders with one size that does not fit.
+const std::vector<Shape> flatProducts = {{1, 5, 1}, {5, 1, 5}, {1, 1, 7}, {7, 1, 1}, {1, 4, 4}, {4, 4, 1}, {1, 8, 8},
+                                         {3, 4, 5}, {5, 4, 3}, {2, 7, 6}, {3, 3, 4}, {4, 3, 3}, {3, 4, 3}, {6, 6, 5},
+                                         {5, 6, 6}, {6, 5, 6}, {8, 7, 8}, {2, 2, 9}, {9, 2, 2}};
+
+// Blocks of four rows by two registers, stretches of the inner dimension, with every kind of remainder.
+const std::vector<Shape> aroundBlocks = {{4, 9, 16}, {5, 2, 17}, {6, 3, 15},  {7, 10, 8},  {8, 16, 24},
+                                         {3, 31, 9}, {2, 70, 5}, {1, 130, 3}, {5, 129, 17}};
+
 // One row and one column: loops that run once, and remainders without a whole register.
 const std::vector<Shape> rowsAndColumns = {{2, 1}, {5, 1}, {8, 1}, {9, 1}, {17, 1}, {31, 1},
                                            {1, 2}, {1, 5}, {1, 8}, {1, 9}, {1, 17}};
@@ -82,6 +99,20 @@ const SizeAxes orders = {
 };
 
 const SizeAxes noSizes = {.all = {{}}, .small = {{}}, .tight = {{}}, .special = {{}}};
+
+const SizeAxes productSizes = {
+    .all = join({cubes(1, 9), flatProducts, aroundBlocks, {{12, 12, 12}, {16, 16, 16}, {17, 17, 17}, {33, 33, 33}}}),
+    .small = join({cubes(1, 9), {{3, 4, 4}, {4, 3, 3}, {4, 4, 3}, {2, 5, 3}}}),
+    .tight = join({cubes(1, 9), flatProducts, aroundBlocks}),
+    .special = {{3, 3, 3}, {4, 4, 4}, {5, 5, 5}, {6, 6, 6}, {5, 9, 17}},
+};
+
+const SizeAxes matrixVectorSizes = {
+    .all = join({squares(1, 9), rowsAndColumns, rectangles, wideSquares, {{3, 70}, {5, 130}, {2, 300}, {70, 3}}}),
+    .small = join({squares(1, 9), {{3, 4}, {4, 3}, {6, 5}}}),
+    .tight = join({squares(1, 9), rowsAndColumns, rectangles, {{12, 12}, {17, 17}, {15, 3}, {23, 2}, {3, 70}}}),
+    .special = matrixSizes.special,
+};
 
 std::span<const int> countsOf(const Model &model) {
     // One object; fewer than the lanes of a register of either type; exactly as many; one more; two registers of

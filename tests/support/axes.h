@@ -26,6 +26,11 @@ extern const SizeAxes orders;
 
 /// The empty shape, of functions whose operands have one size only.
 extern const SizeAxes noSizes;
+/// Shape {rows, inner, columns} of a product of matrices.
+extern const SizeAxes productSizes;
+
+/// Shape {rows, inner} of a product of a matrix and a vector.
+extern const SizeAxes matrixVectorSizes;
 
 /// The number of objects in an array; {1} for an export without arrays.
 std::span<const int> countsOf(const Model &model);

@@ -94,7 +94,7 @@ Fill distinctValues(ElementType type) {
 
 Fill wholeNumbers(ElementType type) {
     return [type](int operand, std::size_t element) {
-        return bitsOf(type, static_cast<double>(element % 1000) + 1000.0 * operand + 1.0);
+        return bitsOf(type, static_cast<double>(element % 50) + 50.0 * operand + 1.0);
     };
 }
 
@@ -140,15 +140,13 @@ void Call::fill(const Fill &fill) {
 
 void Call::makeArguments() {
     arguments_.clear();
-    const std::size_t beforeSizes = std::min(export_.model.operandsBeforeSizes, operands_.size());
-    for (std::size_t index = 0; index < operands_.size(); ++index) {
-        if (index == beforeSizes) {
-            arguments_.insert(arguments_.end(), shape_.begin(), shape_.end());
-        }
+    for (int index = 0; index < static_cast<int>(operands_.size()); ++index) {
         operands_[index].appendArguments(arguments_);
-    }
-    if (beforeSizes == operands_.size()) {
-        arguments_.insert(arguments_.end(), shape_.begin(), shape_.end());
+        for (const SizeParameter &size : export_.model.sizes) {
+            if (size.operand == index) {
+                arguments_.emplace_back(shape_[size.size]);
+            }
+        }
     }
     if (export_.model.hasCount) {
         arguments_.emplace_back(count_);

@@ -23,7 +23,7 @@ using Fill = std::function<std::uint64_t(int operand, std::size_t element)>;
 /// Values that are all different, of either sign, and of magnitudes whose sums are not exact.
 Fill distinctValues(ElementType type);
 
-/// Small whole numbers: sums and differences are exact.
+/// Small whole numbers: sums and differences are exact, and so are sums of many products.
 Fill wholeNumbers(ElementType type);
 
 class Call {

@@ -4,9 +4,11 @@
 #include "support/exports.h"
 
 #include "elementwise/add_sub.h"
-#include "products/reductions.h"
 #include "elementwise/moving.h"
 #include "elementwise/saxpy_lcomb.h"
+#include "products/gaxpy.h"
+#include "products/mul.h"
+#include "products/reductions.h"
 
 #include <lxpm.h>
 
@@ -39,6 +41,8 @@ constexpr Family families[] = {
     {"LoadIdentity", describeLoadIdentity},
     {"Saxpy", describeSaxpyLComb},
     {"LComb", describeSaxpyLComb},
+    {"Mul", describeMul},
+    {"Gaxpy", describeGaxpy},
 };
 
 Model describe(const ExportName &name) {

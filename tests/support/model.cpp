@@ -3,6 +3,8 @@
 
 #include "support/model.h"
 
+#include <algorithm>
+
 namespace lxpm::test {
 
 Form formOf(const Operand &operand, Layout layout) {
@@ -48,6 +50,8 @@ LxpStatus statusOf(Check check) {
         return lxpStatusCountErr;
     case Check::Sizes:
         return lxpStatusSizeErr;
+    case Check::SizeMatch:
+        return lxpStatusSizeMatchErr;
     case Check::Strides:
     case Check::LateStrides:
         return lxpStatusStrideErr;
@@ -80,8 +84,13 @@ std::optional<Check> checkOf(ParameterKind kind) {
 bool Model::mayBeInPlace(int source) const {
     const Operand &from = operands[source];
     const Operand &to = operands.back();
-    return !from.isWritten && from.kind == to.kind && from.isArray == to.isArray && from.rows == to.rows &&
-           from.columns == to.columns && formOf(from, layout) == formOf(to, layout);
+    return destinationMayBeSource && !from.isWritten && from.kind == to.kind && from.isArray == to.isArray &&
+           from.rows == to.rows && from.columns == to.columns && formOf(from, layout) == formOf(to, layout);
+}
+
+bool Model::mustAgree(int size) const {
+    return std::count_if(sizes.begin(), sizes.end(),
+                         [=](const SizeParameter &parameter) { return parameter.size == size; }) > 1;
 }
 
 std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, ElementType type) {
@@ -119,21 +128,15 @@ std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, Eleme
 
 std::vector<Parameter> parametersOf(const Model &model) {
     std::vector<Parameter> parameters;
-    const auto appendSizes = [&] {
-        for (const std::string &size : model.sizes) {
-            parameters.push_back({"int", size, ParameterKind::Size});
-        }
-    };
-    for (std::size_t index = 0; index < model.operands.size(); ++index) {
-        if (index == model.operandsBeforeSizes) {
-            appendSizes();
-        }
+    for (int index = 0; index < static_cast<int>(model.operands.size()); ++index) {
         for (Parameter &parameter : parametersOf(model.operands[index], model.layout, model.type)) {
             parameters.push_back(std::move(parameter));
         }
-    }
-    if (model.operandsBeforeSizes >= model.operands.size()) {
-        appendSizes();
+        for (const SizeParameter &size : model.sizes) {
+            if (size.operand == index) {
+                parameters.push_back({"int", size.name, ParameterKind::Size, size.size});
+            }
+        }
     }
     if (model.hasCount) {
         parameters.push_back({"int", "count", ParameterKind::Count});

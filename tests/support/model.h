@@ -28,14 +28,15 @@ constexpr int sizeOf(ElementType type) {
     return type == ElementType::Float32 ? 4 : 8;
 }
 
-/// The values of an export's size parameters, in the order of its argument list.
+/// The values of an export's logical sizes. Each has one size parameter or, where sizes of operands must agree,
+/// several.
 using Shape = std::vector<int>;
 
 /// Results: one scalar for each object, one behind the other in every layout, which no stride describes.
 enum class Kind { Matrix, Transposed, Vector, Constant, Results };
 
 /// An operand of an export, whatever the layout. `rows` and `columns` are those of the logical object, given as
-/// positions in the export's list of sizes, or as negative numbers where they are always the same.
+/// positions in the export's shapes, or as negative numbers where they are always the same.
 struct Operand {
     static constexpr int one = -1;
     static constexpr int three = -3;
@@ -71,9 +72,10 @@ struct Parameter {
     std::string type; // as C++ spells it: "const float *const *"
     std::string name;
     ParameterKind kind;
+    int size = -1; // of a size parameter: its position in the shape
 };
 
-enum class Check { Pointers, Count, Sizes, Strides, Offsets, LateStrides };
+enum class Check { Pointers, Count, Sizes, SizeMatch, Strides, Offsets, LateStrides };
 
 LxpStatus statusOf(Check check);
 
@@ -111,6 +113,13 @@ struct SizeAxes {
     std::vector<Shape> special; // those that NaN, infinities and zeros wander through
 };
 
+/// A size parameter stands behind an operand's parameters; one that belongs to no operand behind the destination's.
+struct SizeParameter {
+    std::string name;
+    int size;    // its position in the shape
+    int operand; // its position in the list of operands
+};
+
 struct ExportName {
     std::string name; // lxpmAdd_mam_32f_L
     std::string operation;
@@ -121,15 +130,19 @@ struct ExportName {
 
 struct Model : ExportName {
     std::vector<Operand> operands; // in the order of the argument list, the destination last
-    std::vector<std::string> sizes;
+    std::vector<SizeParameter> sizes;
     bool hasCount;
     std::vector<Check> order;
     std::optional<ParallelRule> parallel; // none: always serial
     Formula formula;
     const SizeAxes *axes;
+    bool destinationMayBeSource = true; // as far as their shapes agree
 
-    /// How many operands stand in front of the sizes in the argument list; all, if there are as many as that.
-    std::size_t operandsBeforeSizes = 8;
+    /// How many sizes a shape has.
+    std::size_t dimensions() const { return axes->all.front().size(); }
+
+    /// Whether a size is given by several parameters, which must agree.
+    bool mustAgree(int size) const;
 
     /// Whether whole numbers as operands give exact results: not where they are squared and summed, or a root is taken.
     bool isExactForWholeNumbers = true;

@@ -6,8 +6,8 @@
 // call, in every layout, on one thread or on many. An element passes through the same function on every path, alone or
 // as a lane, so all paths give the same bits.
 
-#include "elementwise/loops.h"
-#include "elementwise/nest.h"
+#include "runtime/loops.h"
+#include "runtime/nest.h"
 #include "runtime/parallel.h"
 
 #include <algorithm>

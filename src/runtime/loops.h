@@ -14,8 +14,8 @@
 //
 // Nothing behind the last element of an operand is read or written.
 
-#include "elementwise/nest.h"
 #include "runtime/lanes.h"
+#include "runtime/nest.h"
 
 #include <algorithm>
 #include <array>
