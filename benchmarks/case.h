@@ -29,11 +29,16 @@ struct Case {
 
     // The call, with its operands laid out in that memory; its first result is Memory::result().
     std::function<Call(const Memory &)> prepare;
+
+    // The size of a result's elements where a peer may round it differently, because it adds in another order; else 0,
+    // and the bits are compared.
+    std::size_t roundedElementSize = 0;
 };
 
 // The list of all cases. A family appends its own.
 std::vector<Case> allCases();
 void appendAddSub(std::vector<Case> &cases);
 void appendMoving(std::vector<Case> &cases);
+void appendReductions(std::vector<Case> &cases);
 
 } // namespace lxpm::bench

@@ -9,6 +9,7 @@ std::vector<Case> allCases() {
     std::vector<Case> cases;
     appendAddSub(cases);
     appendMoving(cases);
+    appendReductions(cases);
     return cases;
 }
 

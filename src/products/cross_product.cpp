@@ -146,15 +146,37 @@ CrossKernel<T> chooseGroups(const CrossOperands<T> &operands) {
     const auto bothAre = [&](Reading reading) {
         return (first == reading || first == Reading::Same) && (second == reading || second == Reading::Same);
     };
-    if (bothAre(Reading::Rows) && dst.step[2] == sizeof(T) && dst.pointerStep[2] == 0) {
+    if (dst.step[2] == sizeof(T) && dst.pointerStep[2] == 0) {
         const bool isDense = dst.step[0] == length * sizeof(T) && dst.pointerStep[0] == 0;
-        return isDense ? chooseSingle<T, Reading::Rows, Writing::Dense>(first, second)
-                       : chooseSingle<T, Reading::Rows, Writing::Rows>(first, second);
+        if (bothAre(Reading::Rows)) {
+            return isDense ? chooseSingle<T, Reading::Rows, Writing::Dense>(first, second)
+                           : chooseSingle<T, Reading::Rows, Writing::Rows>(first, second);
+        }
+        if (bothAre(Reading::PointedRows)) {
+            return chooseSingle<T, Reading::PointedRows, Writing::Rows>(first, second);
+        }
     }
     if (bothAre(Reading::Objects) && dst.step[0] == sizeof(T) && dst.pointerStep[0] == 0) {
         return chooseSingle<T, Reading::Objects, Writing::Objects>(first, second);
     }
     return nullptr;
+}
+
+// Returns how many objects were in groups.
+template <class T>
+std::ptrdiff_t crossWholeGroups(CrossOperands<T> operands, std::ptrdiff_t objects) {
+    const CrossKernel<T> groups = chooseGroups(operands);
+    if (groups == nullptr) {
+        return 0;
+    }
+    const SingleVector<T> first(operands.first, length);
+    const SingleVector<T> second(operands.second, length);
+    if (readingOf(operands.first) == Reading::Same) {
+        operands.first = first.addresses();
+    } else if (readingOf(operands.second) == Reading::Same) {
+        operands.second = second.addresses();
+    }
+    return groups(operands, objects);
 }
 
 // All objects of a call.
@@ -164,9 +186,7 @@ template <class T>
         const CrossOperands<T> own = operands.from(first);
         std::ptrdiff_t done = 0;
         if (objects >= groupSize<T>) {
-            if (const CrossKernel<T> groups = chooseGroups(own); groups != nullptr) {
-                done = groups(own, objects);
-            }
+            done = crossWholeGroups(own, objects);
         }
         crossOneByOne(own, done, objects);
         return lxpStatusOk;

@@ -6,8 +6,9 @@
 // their elements into registers. How it does so depends on how the elements stand in memory:
 //
 //   Rows      the elements of a row touch: four of each object are loaded at once and turned in registers
+//             (PointedRows: through a pointer to each object)
 //   Objects   the same element of successive objects touches: a column is one load
-//   Same      a single object that is used with every object of the array
+//   Same      a single vector that is used with every object of the array, as a dense copy (SingleVector)
 //   Apart     anything else: one by one
 //
 // Nothing behind the last element of an array is read.
@@ -17,10 +18,11 @@
 
 #include <array>
 #include <cstddef>
+#include <utility>
 
 namespace lxpm {
 
-enum class Reading { Rows, Objects, Same, Apart };
+enum class Reading { Rows, PointedRows, Objects, Same, Apart };
 
 template <class T>
 inline Reading readingOf(const Addresses<const T> &source) {
@@ -29,7 +31,7 @@ inline Reading readingOf(const Addresses<const T> &source) {
         return Reading::Same;
     }
     if (source.step[2] == sizeof(T) && inRow) {
-        return Reading::Rows;
+        return source.pointerStep[0] == 0 ? Reading::Rows : Reading::PointedRows;
     }
     return source.step[0] == sizeof(T) && source.pointerStep[0] == 0 ? Reading::Objects : Reading::Apart;
 }
@@ -86,37 +88,59 @@ template <int columns, bool>
     }
 }
 
-template <class T, Reading reading>
+template <class T, Reading reading, std::ptrdiff_t Step = 0>
 class GroupReader;
 
-template <class T>
-class GroupReader<T, Reading::Rows> {
+// Step: bytes from object to object where they are known beforehand, else 0.
+template <class T, std::ptrdiff_t Step>
+class GroupReader<T, Reading::Rows, Step> {
 public:
-    GroupReader(const Addresses<const T> &source, std::ptrdiff_t first) : rowStep(source.step[1]) {
-#pragma GCC unroll 8
-        for (int object = 0; object < groupSize<T>; ++object) {
-            start[object] = source.at(first + object, 0, 0);
-        }
-    }
+    GroupReader(const Addresses<const T> &source, std::ptrdiff_t first)
+        : start(shifted(source.base, source.offset + first * source.step[0])), step(Step != 0 ? Step : source.step[0]),
+          rowStep(source.step[1]) {}
 
     template <int columns, bool readsOn = false>
     [[gnu::always_inline]] GroupColumns<T> read(std::ptrdiff_t row, std::ptrdiff_t column) const {
-        const std::ptrdiff_t distance = row * rowStep + column * static_cast<std::ptrdiff_t>(sizeof(T));
-        std::array<const T *, groupSize<T>> from;
-#pragma GCC unroll 8
-        for (int object = 0; object < groupSize<T>; ++object) {
-            from[object] = shifted(start[object], distance);
-        }
-        return columnsOf<columns, readsOn>(from);
+        return objects<columns, readsOn>(shifted(start, row * rowStep) + column,
+                                         std::make_integer_sequence<int, groupSize<T>>());
     }
 
 private:
-    std::array<const T *, groupSize<T>> start;
+    template <int columns, bool readsOn, int... object>
+    [[gnu::always_inline]] GroupColumns<T> objects(const T *first, std::integer_sequence<int, object...>) const {
+        return columnsOf<columns, readsOn>({shifted(first, object * step)...});
+    }
+
+    const T *start;
+    std::ptrdiff_t step;
     std::ptrdiff_t rowStep;
 };
 
 template <class T>
-class GroupReader<T, Reading::Objects> {
+class GroupReader<T, Reading::PointedRows, 0> {
+public:
+    GroupReader(const Addresses<const T> &source, std::ptrdiff_t first)
+        : start(source.pointers + first), offset(source.offset), rowStep(source.step[1]) {}
+
+    template <int columns, bool = false>
+    [[gnu::always_inline]] GroupColumns<T> read(std::ptrdiff_t row, std::ptrdiff_t column) const {
+        return objects<columns>(offset + row * rowStep + column * static_cast<std::ptrdiff_t>(sizeof(T)),
+                                std::make_integer_sequence<int, groupSize<T>>());
+    }
+
+private:
+    template <int columns, int... object>
+    [[gnu::always_inline]] GroupColumns<T> objects(std::ptrdiff_t bytes, std::integer_sequence<int, object...>) const {
+        return columnsOf<columns, false>({shifted(start[object], bytes)...});
+    }
+
+    const T *const *start;
+    std::ptrdiff_t offset;
+    std::ptrdiff_t rowStep;
+};
+
+template <class T>
+class GroupReader<T, Reading::Objects, 0> {
 public:
     GroupReader(const Addresses<const T> &operand, std::ptrdiff_t firstObject) : source(operand), first(firstObject) {}
 
@@ -136,26 +160,44 @@ private:
 };
 
 template <class T>
-class GroupReader<T, Reading::Same> {
+class GroupReader<T, Reading::Same, 0> {
 public:
-    GroupReader(const Addresses<const T> &operand, std::ptrdiff_t) : source(operand) {}
+    GroupReader(const Addresses<const T> &source, std::ptrdiff_t) : first(source.base) {}
 
     template <int columns, bool = false>
-    [[gnu::always_inline]] GroupColumns<T> read(std::ptrdiff_t row, std::ptrdiff_t column) const {
-        GroupColumns<T> group;
-#pragma GCC unroll 4
-        for (int i = 0; i < columns; ++i) {
-            group[i] = Group<T>::splat(*source.at(0, row, column + i));
-        }
-        return group;
+    [[gnu::always_inline]] GroupColumns<T> read(std::ptrdiff_t, std::ptrdiff_t column) const {
+        return splats(first + column, std::make_integer_sequence<int, columns>());
     }
 
 private:
-    const Addresses<const T> &source;
+    template <int... column>
+    [[gnu::always_inline]] static GroupColumns<T> splats(const T *from, std::integer_sequence<int, column...>) {
+        return {broadcast(from + column)...};
+    }
+
+    const T *first;
+};
+
+// A single vector in the form in which Same reads it: a dense copy.
+template <class T>
+class SingleVector {
+public:
+    static constexpr int longest = 64;
+
+    SingleVector(const Addresses<const T> &source, int length) {
+        for (int i = 0; i < length; ++i) {
+            copy[i] = *source.at(0, 0, i);
+        }
+    }
+
+    Addresses<const T> addresses() const { return Addresses<const T>::strided(copy, {0, 0, sizeof(T)}); }
+
+private:
+    T copy[longest];
 };
 
 template <class T>
-class GroupReader<T, Reading::Apart> {
+class GroupReader<T, Reading::Apart, 0> {
 public:
     GroupReader(const Addresses<const T> &operand, std::ptrdiff_t firstObject) : source(operand), first(firstObject) {}
 

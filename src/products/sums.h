@@ -57,10 +57,12 @@ class Sums {
 public:
     using Operands = SumOperands<T, sources>;
 
-    static void split(const Operands &operands, int rows, int columns, int objects) {
+    static void split(const Operands &shared, int rows, int columns, int objects) {
+        const Operands operands = shared; // a copy that no store below can reach
         std::ptrdiff_t object = 0;
         for (; object + groupSize<T> <= objects; object += groupSize<T>) {
             std::array<Group<T>, groupSize<T>> partial;
+#pragma GCC unroll 1
             for (int i = 0; i < groupSize<T>; ++i) {
                 partial[i] = splitSum(operands.src, rows, columns, object + i, Index());
             }
@@ -78,7 +80,7 @@ public:
         }
         const std::ptrdiff_t inGroups = objects / groupSize<T> * groupSize<T>;
         if (inGroups > 0) {
-            chooseGroups<>(operands, columns)(operands, rows, columns, objects);
+            overGroups(operands, rows, columns, objects);
         }
         for (std::ptrdiff_t object = inGroups; object < objects; ++object) {
             operands.dst[object] = Finish()(sumOfOne(operands.src, rows, columns, object));
@@ -118,21 +120,26 @@ private:
         constexpr int lanes = groupSize<T>;
         std::ptrdiff_t i = 0;
         for (; i + 4 * lanes <= n; i += 4 * lanes) {
-#pragma GCC unroll 4
-            for (int r = 0; r < 4; ++r) {
-                partial[r] = partial[r] + product(Group<T>::load(src + i + r * lanes)...);
-            }
+            partial[0] = partial[0] + product(Group<T>::load(src + i)...);
+            partial[1] = partial[1] + product(Group<T>::load(src + i + lanes)...);
+            partial[2] = partial[2] + product(Group<T>::load(src + i + 2 * lanes)...);
+            partial[3] = partial[3] + product(Group<T>::load(src + i + 3 * lanes)...);
         }
-#pragma GCC unroll 4
-        for (int r = 0; r < 4; ++r) {
-            if (i + lanes > n) {
-                if (i < n) { // the lanes beyond add 0 * 0 to a sum, which leaves it as it is
-                    partial[r] = partial[r] + product(loadSome(src + i, n - i)...);
-                }
-                return;
+        addEnd<0>(partial, n - i, (src + i)...);
+    }
+
+    // The last n elements of a row, fewer than the partial sums from register r on.
+    template <int r, class... Pointers>
+    [[gnu::always_inline]] static void addEnd(std::array<Group<T>, 4> &partial, std::ptrdiff_t n,
+                                              const Pointers *...src) {
+        constexpr int lanes = groupSize<T>;
+        if (n >= lanes) {
+            partial[r] = partial[r] + product(Group<T>::load(src)...);
+            if constexpr (r < 3) {
+                addEnd<r + 1>(partial, n - lanes, (src + lanes)...);
             }
-            partial[r] = partial[r] + product(Group<T>::load(src + i)...);
-            i += lanes;
+        } else if (n > 0) { // the lanes beyond add 0 * 0 to a sum, which leaves it as it is
+            partial[r] = partial[r] + product(loadSome(src, n)...);
         }
     }
 
@@ -161,75 +168,114 @@ private:
         return sum;
     }
 
-    // The kernel for all whole groups of a call.
-    template <Reading... chosen>
-    static Groups chooseGroups(const Operands &operands, int columns) {
-        constexpr std::size_t source = sizeof...(chosen);
-        if constexpr (source == sources) {
-            if constexpr (((chosen == Reading::Rows) || ...) &&
-                          ((chosen == Reading::Rows || chosen == Reading::Same) && ...)) {
-                return chooseLength<chosen...>(columns);
-            } else {
-                return groups<0, chosen...>;
+    // All whole groups: sources that are all read alike, but for a single vector.
+    static void overGroups(const Operands &operands, int rows, int columns, std::ptrdiff_t objects) {
+        const Reading reading = readingOf(operands.src[0]);
+        if constexpr (sources == 2) {
+            const Reading last = readingOf(operands.src[1]);
+            if (last == Reading::Same && columns <= SingleVector<T>::longest) {
+                const SingleVector<T> vector(operands.src[1], columns);
+                const Operands copied = {{operands.src[0], vector.addresses()}, operands.dst};
+                return chooseReading<Reading::Same>(reading, copied, rows, columns)(copied, rows, columns, objects);
             }
-        } else {
-            switch (readingOf(operands.src[source])) {
-            case Reading::Rows:
-                return chooseGroups<chosen..., Reading::Rows>(operands, columns);
-            case Reading::Objects:
-                return chooseGroups<chosen..., Reading::Objects>(operands, columns);
-            case Reading::Same:
-                if constexpr (source > 0) { // the first source is an array
-                    return chooseGroups<chosen..., Reading::Same>(operands, columns);
-                }
-                [[fallthrough]];
-            case Reading::Apart:
-                break;
+            if (last != reading) {
+                return groups<Reading::Apart, Reading::Apart, 0, false>(operands, rows, columns, objects);
             }
-            return chooseGroups<chosen..., Reading::Apart>(operands, columns);
+        }
+        chooseReading<Reading::Apart>(reading, operands, rows, columns)(operands, rows, columns, objects);
+    }
+
+    // Last: Same where the last source is a single object, else anything.
+    template <Reading last>
+    static Groups chooseReading(Reading reading, const Operands &operands, int rows, int columns) {
+        switch (reading) {
+        case Reading::Rows:
+            return isDense(operands, rows, columns, last == Reading::Same)
+                       ? chooseLength<Reading::Rows, lastOf(last, Reading::Rows), true>(columns)
+                       : chooseLength<Reading::Rows, lastOf(last, Reading::Rows), false>(columns);
+        case Reading::PointedRows:
+            return chooseLength<Reading::PointedRows, lastOf(last, Reading::PointedRows), false>(columns);
+        case Reading::Objects:
+            return groups<Reading::Objects, lastOf(last, Reading::Objects), 0, false>;
+        default:
+            return groups<Reading::Apart, lastOf(last, Reading::Apart), 0, false>;
         }
     }
 
-    template <Reading... reading>
-    static Groups chooseLength(int columns) {
-        static constexpr Groups unrolled[] = {groups<1, reading...>, groups<2, reading...>, groups<3, reading...>,
-                                              groups<4, reading...>, groups<5, reading...>, groups<6, reading...>,
-                                              groups<7, reading...>, groups<8, reading...>};
-        return columns <= longestUnrolled ? unrolled[columns - 1] : groups<0, reading...>;
+    static constexpr Reading lastOf(Reading last, Reading first) {
+        return last == Reading::Same ? last : first;
     }
 
-    static constexpr int longestUnrolled = 8;
+    // Vectors one behind the other, of a length with a kernel of its own.
+    static bool isDense(const Operands &operands, int rows, int columns, bool lastIsSame) {
+        bool dense = rows == 1 && columns >= 3 && columns <= longestUnrolled;
+        for (std::size_t source = 0; source < sources - lastIsSame; ++source) {
+            dense &= operands.src[source].step[0] == columns * static_cast<std::ptrdiff_t>(sizeof(T));
+        }
+        return dense;
+    }
 
-    // Length: of the rows where it is known beforehand, else 0.
-    template <int Length, Reading... reading>
+    template <Reading first, Reading last, bool dense>
+    static Groups chooseLength(int columns) {
+        switch (columns) {
+        case 1:
+            return groups<first, last, 1, false>;
+        case 2:
+            return groups<first, last, 2, false>;
+        case 3:
+            return groups<first, last, 3, dense>;
+        case 4:
+            return groups<first, last, 4, dense>;
+        case 5:
+            return groups < first, last, dense ? 5 : 0, dense > ;
+        case 6:
+            return groups < first, last, dense ? 6 : 0, dense > ;
+        case 7:
+            return groups < first, last, dense ? 7 : 0, dense > ;
+        case 8:
+            return groups < first, last, dense ? 8 : 0, dense > ;
+        case 9:
+            return groups < first, last, dense ? 9 : 0, dense > ;
+        default:
+            return groups<first, last, 0, false>;
+        }
+    }
+
+    static constexpr int longestUnrolled = 9; // a matrix of order 3
+
+    // Length: of the rows where it is known beforehand, else 0. Dense: there is one row, and the objects touch.
+    template <Reading first, Reading last, int Length, bool dense>
     static void groups(const Operands &shared, int rows, int columns, std::ptrdiff_t objects) {
         const Operands operands = shared; // a copy that no store below can reach
-        [&]<std::size_t... s>(std::index_sequence<s...>) [[gnu::always_inline]] {
+        std::ptrdiff_t object = 0;
+        if constexpr (Length == 3 && groupSize<T> == 8 && first == Reading::Rows) {
             // Four elements of a row of three may be read unless it is the last row of an array.
-            std::ptrdiff_t object = 0;
-            if constexpr (Length == 3 && groupSize<T> == 8) {
-                if (((operands.src[s].pointerStep[0] == 0) && ...)) {
-                    for (; object + groupSize<T> < objects; object += groupSize<T>) {
-                        store<Length, true>(operands.dst + object, rows, columns,
-                                            GroupReader<T, reading>(operands.src[s], object)...);
-                    }
-                }
-            }
-            for (; object + groupSize<T> <= objects; object += groupSize<T>) {
-                store<Length, false>(operands.dst + object, rows, columns,
-                                     GroupReader<T, reading>(operands.src[s], object)...);
+            for (; object + groupSize<T> < objects; object += groupSize<T>) {
+                store<first, last, Length, dense, true>(operands, object, rows, columns);
             }
         }
-        (Index());
+        for (; object + groupSize<T> <= objects; object += groupSize<T>) {
+            store<first, last, Length, dense, false>(operands, object, rows, columns);
+        }
+    }
+
+    template <Reading first, Reading last, int Length, bool dense, bool readsOn>
+    [[gnu::always_inline]] static void store(const Operands &operands, std::ptrdiff_t object, int rows, int columns) {
+        constexpr std::ptrdiff_t step = dense ? Length * static_cast<std::ptrdiff_t>(sizeof(T)) : 0;
+        const int oneOrMore = dense || sources == 2 ? 1 : rows;
+        const int length = Length != 0 ? Length : columns;
+        const GroupReader<T, first, step> a(operands.src[0], object);
+        if constexpr (sources == 1) {
+            sumOfGroup<Length, readsOn>(operands.dst + object, oneOrMore, length, a);
+        } else {
+            const GroupReader<T, last, last == Reading::Same ? 0 : step> b(operands.src[1], object);
+            sumOfGroup<Length, readsOn>(operands.dst + object, oneOrMore, length, a, b);
+        }
     }
 
     template <int Length, bool readsOn, class... Reader>
-    [[gnu::always_inline]] static void store(T *dst, int rows, int columns, const Reader &...reader) {
-        Finish()(sumOfGroup<Length, readsOn>(rows, Length != 0 ? Length : columns, reader...)).store(dst);
-    }
-
-    template <int Length, bool readsOn, class... Reader>
-    [[gnu::always_inline]] static Group<T> sumOfGroup(std::ptrdiff_t rows, std::ptrdiff_t n, const Reader &...reader) {
+    [[gnu::always_inline]] static void sumOfGroup(T *dst, std::ptrdiff_t rows, std::ptrdiff_t n,
+                                                  const Reader &...reader) {
         Group<T> sum = Group<T>::splat(0);
         for (std::ptrdiff_t row = 0; row < rows; ++row) {
             std::ptrdiff_t column = 0;
@@ -237,7 +283,7 @@ private:
             for (; column + 4 <= n; column += 4) {
                 add<0, 4>(sum, reader.template read<4>(row, column)...);
             }
-            // The elements left: with the last ones of those before them where the length says that there are some.
+            // The elements left, where the length says so together with some of those before them.
             const auto left = n - column;
             if (left == 0) {
                 continue;
@@ -252,7 +298,7 @@ private:
                 add<0, 3>(sum, reader.template read<3, readsOn>(row, column)...);
             }
         }
-        return sum;
+        Finish()(sum).store(dst);
     }
 
     template <int from, int to, class... Columns>

@@ -38,18 +38,25 @@ template <int Order, class T>
 void tracesOneByOne(const Addresses<const T> &shared, T *dst, int anyOrder, int objects) {
     const Addresses<const T> diagonal = shared; // a copy that no store below can reach
     const int order = Order != 0 ? Order : anyOrder;
-    for (std::ptrdiff_t object = 0; object < objects; ++object) {
-        T sum = 0;
-        if (diagonal.pointerStep[2] != 0) {
-            for (int i = 0; i < order; ++i) {
-                sum += *diagonal.at(object, 0, i);
-            }
-        } else {
-            const T *const first = diagonal.at(object, 0, 0);
+    if (diagonal.pointers == nullptr) {
+        const T *first = diagonal.at(0, 0, 0);
+        for (int object = 0; object < objects; ++object) {
+            T sum = 0;
+            const T *element = first;
 #pragma GCC unroll 6
             for (int i = 0; i < order; ++i) {
-                sum += *shifted(first, i * diagonal.step[2]);
+                sum += *element;
+                element = shifted(element, diagonal.step[2]);
             }
+            dst[object] = sum;
+            first = shifted(first, diagonal.step[0]);
+        }
+        return;
+    }
+    for (int object = 0; object < objects; ++object) {
+        T sum = 0;
+        for (int i = 0; i < order; ++i) {
+            sum += *diagonal.at(object, 0, i);
         }
         dst[object] = sum;
     }

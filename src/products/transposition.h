@@ -100,7 +100,8 @@ private:
 
     // In registers.
 
-    // A small block of the source, its first element at (row, column).
+    // A small block of the source, its first element at (row, column); only its columns from `first` on are written.
+    template <int first = 0>
     [[gnu::always_inline]] static void smallBlock(const Pair &pair, std::ptrdiff_t row, std::ptrdiff_t column) {
         std::array<Lanes<T, 4>, 4> block;
 #pragma GCC unroll 4
@@ -109,7 +110,7 @@ private:
         }
         transpose(block);
 #pragma GCC unroll 4
-        for (int i = 0; i < 4; ++i) {
+        for (int i = first; i < 4; ++i) {
             block[i].store(pair.to(column + i, row));
         }
     }
@@ -157,9 +158,9 @@ private:
             } else {
                 smallBlock(pair, 0, 0);
                 if constexpr (Order > side) {
-                    smallBlock(pair, 0, Order - side);
                     smallBlock(pair, Order - side, 0);
-                    smallBlock(pair, Order - side, Order - side);
+                    smallBlock<2 * side - Order>(pair, 0, Order - side);
+                    smallBlock<2 * side - Order>(pair, Order - side, Order - side);
                 }
             }
         });

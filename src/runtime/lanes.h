@@ -167,6 +167,15 @@ inline Lanes<float, 4> highHalf(Lanes<float, 8> lanes) {
     return {_mm256_extractf128_ps(lanes.vector, 1)};
 }
 
+// One element from memory in all lanes.
+inline Lanes<float, 8> broadcast(const float *from) {
+    return {_mm256_broadcast_ss(from)};
+}
+
+inline Lanes<double, 4> broadcast(const double *from) {
+    return {_mm256_broadcast_sd(from)};
+}
+
 // The first n lanes from memory, fewer than all, the others 0. No other memory is touched.
 template <class T>
 inline Lanes<T, fullLanes<T>> loadSome(const T *from, std::ptrdiff_t n) {

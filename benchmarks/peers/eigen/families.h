@@ -9,5 +9,6 @@ namespace lxpm::bench::eigen {
 // Each appends the kernels of a family.
 void addAddSub(PeerTable &table);
 void addMoving(PeerTable &table);
+void addReductions(PeerTable &table);
 
 } // namespace lxpm::bench::eigen
