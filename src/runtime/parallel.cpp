@@ -40,17 +40,9 @@ constexpr Block blockOf(int thread, int quotient, int remainder) {
     return {remainder * (quotient + 1) + (thread - remainder) * quotient, quotient};
 }
 
-} // namespace
-
-LxpStatus shareOut(int count, SerialKernel kernel, const void *call) noexcept {
-    const int threads = ownGetNumThreads();
-    if (threads <= 1 || count < threads) {
-        return kernel(call, 0, count);
-    }
-    // Asked again, because the setting is the caller's to change up to the moment at which the team starts.
-    const int team = suppliedThreads(ownGetNumThreads());
-
-    const unsigned state = _mm_getcsr();
+// The team at work. A function of its own, because Clang starts its runtime where a function with a parallel region is
+// entered: a call that stays serial has no need of it, and starting it raises exceptions on the caller.
+[[gnu::noinline]] LxpStatus runTeam(int team, unsigned state, int count, SerialKernel kernel, const void *call) {
     int quotient = 0;
     int remainder = 0;
     LxpStatus result = lxpStatusOk;
@@ -74,6 +66,18 @@ LxpStatus shareOut(int count, SerialKernel kernel, const void *call) noexcept {
         }
     }
     return result;
+}
+
+} // namespace
+
+LxpStatus shareOut(int count, SerialKernel kernel, const void *call) noexcept {
+    const unsigned state = _mm_getcsr(); // before the runtime is asked anything
+    const int threads = ownGetNumThreads();
+    if (threads <= 1 || count < threads) {
+        return kernel(call, 0, count);
+    }
+    // Asked again, because the setting is the caller's to change up to the moment at which the team starts.
+    return runTeam(suppliedThreads(ownGetNumThreads()), state, count, kernel, call);
 }
 
 } // namespace lxpm
