@@ -31,8 +31,9 @@ struct Case {
     std::function<Call(const Memory &)> prepare;
 
     // The size of a result's elements where a peer may round it differently, because it adds in another order; else 0,
-    // and the bits are compared.
+    // and the bits are compared. How far they may be apart, in terms of the largest result.
     std::size_t roundedElementSize = 0;
+    double tolerance = 1e-4;
 };
 
 // The list of all cases. A family appends its own.
@@ -40,5 +41,6 @@ std::vector<Case> allCases();
 void appendAddSub(std::vector<Case> &cases);
 void appendMoving(std::vector<Case> &cases);
 void appendReductions(std::vector<Case> &cases);
+void appendGraphics(std::vector<Case> &cases);
 
 } // namespace lxpm::bench

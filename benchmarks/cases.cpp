@@ -10,6 +10,7 @@ std::vector<Case> allCases() {
     appendAddSub(cases);
     appendMoving(cases);
     appendReductions(cases);
+    appendGraphics(cases);
     return cases;
 }
 

@@ -81,17 +81,18 @@ private:
     }
 
     template <class T>
-    static bool areClose(const std::string &peer, const std::string &own) {
-        constexpr T tolerance = sizeof(T) == sizeof(float) ? T(1e-4) : T(1e-12);
-        bool close = true;
+    bool areClose(const std::string &peer, const std::string &own) const {
+        T largest = 0;
+        T farthest = 0;
         for (std::size_t at = 0; at < own.size(); at += sizeof(T)) {
             T a;
             T b;
             std::memcpy(&a, peer.data() + at, sizeof(T));
             std::memcpy(&b, own.data() + at, sizeof(T));
-            close &= a == b || std::abs(a - b) <= tolerance * std::max(std::abs(a), std::abs(b));
+            largest = std::max(largest, std::abs(b));
+            farthest = std::max(farthest, std::abs(a - b));
         }
-        return close;
+        return farthest <= case_.tolerance * largest;
     }
 
     const Case &case_;

@@ -8,6 +8,8 @@
 extern "C" {
 const lxpm::bench::PeerTable *lxpmPeer_eigen_avx();
 const lxpm::bench::PeerTable *lxpmPeer_eigen_native();
+const lxpm::bench::PeerTable *lxpmPeer_glm();
+const lxpm::bench::PeerTable *lxpmPeer_cglm();
 }
 
 namespace lxpm::bench {
@@ -22,6 +24,8 @@ const std::vector<Peer> &peers() {
     static const std::vector<Peer> all = {
         {"Eigen-avx", *lxpmPeer_eigen_avx()},
         {"Eigen-native", *lxpmPeer_eigen_native()},
+        {"GLM", *lxpmPeer_glm()},
+        {"cglm", *lxpmPeer_cglm()},
     };
     return all;
 }

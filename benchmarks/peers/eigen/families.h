@@ -10,5 +10,6 @@ namespace lxpm::bench::eigen {
 void addAddSub(PeerTable &table);
 void addMoving(PeerTable &table);
 void addReductions(PeerTable &table);
+void addGraphics(PeerTable &table);
 
 } // namespace lxpm::bench::eigen
