@@ -30,6 +30,9 @@ struct SumMember {
         std::conditional_t<isArray, Count, OneObject>>;
     // clang-format on
 
+    static constexpr bool hasShortWay = !isArray;
+    static bool isShort(const Arguments &arguments);
+    static void runShort(const Arguments &arguments);
     static LxpStatus run(const Arguments &arguments);
 };
 

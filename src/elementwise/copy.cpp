@@ -5,7 +5,6 @@
 
 #include "elementwise/copy_elements.h"
 #include "elementwise/threshold.h"
-#include "runtime/entry_call.h"
 
 namespace lxpm {
 
@@ -33,9 +32,7 @@ LxpStatus CopyMember<operands, T, from, to>::run(const Arguments &arguments) {
                            {destination.addresses(height, width), {source.addresses(height, width)}});
 }
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "elementwise/copy.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "elementwise/copy.list.h"
+#include "runtime/instantiate.h"

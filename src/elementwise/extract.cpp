@@ -5,7 +5,6 @@
 
 #include "elementwise/copy_elements.h"
 #include "elementwise/threshold.h"
-#include "runtime/entry_call.h"
 #include "runtime/rows.h"
 
 namespace lxpm {
@@ -24,6 +23,20 @@ constexpr Row<InOrder> orders[] = {
 } // namespace
 
 template <Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline bool ExtractMember<operands, T, memory>::isShort(const Arguments &arguments) {
+    const auto &size = std::get<2>(arguments.parts);
+    return firstFailure<rowOf<ExtractMember, orders>>(arguments) == lxpStatusOk && isSmall(size.height(), size.width());
+}
+
+template <Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline void ExtractMember<operands, T, memory>::runShort(const Arguments &arguments) {
+    const auto &[source, destination, size, number] = arguments.parts;
+    const int width = size.width();
+    const int height = size.height();
+    mapObject(Same(), height, width, destination.object(height, width), source.object(height, width));
+}
+
+template <Code operands, class T, Layout memory>
 LxpStatus ExtractMember<operands, T, memory>::run(const Arguments &arguments) {
     if (const LxpStatus status = firstFailure<rowOf<ExtractMember, orders>>(arguments); status != lxpStatusOk) {
         return status;
@@ -38,9 +51,7 @@ LxpStatus ExtractMember<operands, T, memory>::run(const Arguments &arguments) {
                            {destination.addresses(height, width), {source.addresses(height, width)}});
 }
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "elementwise/extract.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "elementwise/extract.list.h"
+#include "runtime/instantiate.h"

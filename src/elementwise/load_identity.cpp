@@ -5,7 +5,6 @@
 
 #include "elementwise/copy_elements.h"
 #include "elementwise/threshold.h"
-#include "runtime/entry_call.h"
 #include "runtime/parallel.h"
 
 #include <algorithm>
@@ -89,9 +88,7 @@ LxpStatus LoadIdentityMember<operands, T, layout>::run(const Arguments &argument
     return loadIdentities<T>(parallel, count, height, width, destination.addresses(height, width));
 }
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "elementwise/load_identity.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "elementwise/load_identity.list.h"
+#include "runtime/instantiate.h"

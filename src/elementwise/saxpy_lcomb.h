@@ -31,6 +31,9 @@ struct CombinationMember {
         lxpm::Arguments<Source<first>, Constant, Source<second>, Destination, VectorLength, Objects>,
         lxpm::Arguments<Source<first>, Constant, Source<second>, Constant, Destination, VectorLength, Objects>>;
 
+    static constexpr bool hasShortWay = !isArray;
+    static bool isShort(const Arguments &arguments);
+    static void runShort(const Arguments &arguments);
     static LxpStatus run(const Arguments &arguments);
 };
 

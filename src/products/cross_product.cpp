@@ -4,7 +4,6 @@
 #include "products/cross_product.h"
 
 #include "products/readers.h"
-#include "runtime/entry_call.h"
 #include "runtime/parallel.h"
 #include "runtime/rows.h"
 #include "runtime/work.h"
@@ -212,9 +211,7 @@ LxpStatus CrossProductMember<operands, T, memory>::run(const Arguments &argument
                            {first.addresses(1, length), second.addresses(1, length), destination.addresses(1, length)});
 }
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "products/cross_product.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "products/cross_product.list.h"
+#include "runtime/instantiate.h"

@@ -4,7 +4,6 @@
 #include "products/dot_product.h"
 
 #include "products/sums.h"
-#include "runtime/entry_call.h"
 #include "runtime/rows.h"
 #include "runtime/work.h"
 
@@ -53,9 +52,7 @@ LxpStatus DotProductMember<operands, T, memory>::run(const Arguments &arguments)
                                        {{first.addresses(1, length), second.addresses(1, length)}, results.first});
 }
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "products/dot_product.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "products/dot_product.list.h"
+#include "runtime/instantiate.h"

@@ -4,7 +4,6 @@
 #include "products/frob_norm.h"
 
 #include "products/sums.h"
-#include "runtime/entry_call.h"
 #include "runtime/rows.h"
 #include "runtime/work.h"
 
@@ -50,9 +49,7 @@ LxpStatus FrobNormMember<operands, T, memory>::run(const Arguments &arguments) {
                                         {{source.addresses(height, width)}, results.first});
 }
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "products/frob_norm.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "products/frob_norm.list.h"
+#include "runtime/instantiate.h"

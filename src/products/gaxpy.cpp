@@ -3,8 +3,8 @@
 
 #include "products/gaxpy.h"
 
+#include "products/one_product.h"
 #include "products/product.h"
-#include "runtime/entry_call.h"
 #include "runtime/rows.h"
 #include "runtime/work.h"
 
@@ -27,6 +27,21 @@ constexpr Row<Thresholds> thresholds[] = {
 };
 
 } // namespace
+
+template <Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline bool GaxpyMember<operands, T, memory>::isShort(const Arguments &arguments) {
+    return firstFailure<order>(arguments) == lxpStatusOk && isShortProduct(arguments.rows(), arguments.inner(), 1);
+}
+
+// As a row: the vector times the transposed matrix.
+template <Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline void GaxpyMember<operands, T, memory>::runShort(const Arguments &arguments) {
+    const int rows = arguments.rows();
+    const int inner = arguments.inner();
+    multiplyObject(1, inner, rows, arguments.vector().object(1, inner),
+                   arguments.matrix().object(rows, inner).transposed(), arguments.destination().object(1, rows),
+                   arguments.addend().object(1, rows));
+}
 
 template <Code operands, class T, Layout memory>
 LxpStatus GaxpyMember<operands, T, memory>::run(const Arguments &arguments) {
@@ -59,9 +74,7 @@ LxpStatus GaxpyMember<operands, T, memory>::run(const Arguments &arguments) {
                               .dst = destination.addresses(1, rows)});
 }
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "products/gaxpy.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "products/gaxpy.list.h"
+#include "runtime/instantiate.h"

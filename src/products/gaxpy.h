@@ -33,7 +33,7 @@ public:
     template <class... P>
     explicit constexpr GaxpyArguments(P... parameters) : list(parameters...) {}
 
-    constexpr bool violates(Check check) const {
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
         return list.violates(check) || (check == Check::SizeMatch && (inner() != std::get<3>(list.parts).width() ||
                                                                       rows() != std::get<5>(list.parts).width()));
     }
@@ -59,6 +59,9 @@ struct GaxpyMember {
 
     using Arguments = GaxpyArguments<operands, T, layout>;
 
+    static constexpr bool hasShortWay = !operands.hasArray();
+    static bool isShort(const Arguments &arguments);
+    static void runShort(const Arguments &arguments);
     static LxpStatus run(const Arguments &arguments);
 };
 

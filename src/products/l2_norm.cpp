@@ -4,7 +4,6 @@
 #include "products/l2_norm.h"
 
 #include "products/sums.h"
-#include "runtime/entry_call.h"
 #include "runtime/rows.h"
 #include "runtime/work.h"
 
@@ -39,9 +38,7 @@ LxpStatus L2NormMember<operands, T, memory>::run(const Arguments &arguments) {
                                         {{source.addresses(1, length)}, results.first});
 }
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "products/l2_norm.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "products/l2_norm.list.h"
+#include "runtime/instantiate.h"

@@ -35,7 +35,7 @@ public:
     template <class... P>
     explicit constexpr ProductArguments(P... parameters) : list(parameters...) {}
 
-    constexpr bool violates(Check check) const {
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
         return list.violates(check) || (check == Check::SizeMatch && inner() != secondInner());
     }
 
@@ -69,6 +69,9 @@ struct ProductMember {
 
     using Arguments = ProductArguments<operands, T, layout>;
 
+    static constexpr bool hasShortWay = !operands.hasArray();
+    static bool isShort(const Arguments &arguments);
+    static void runShort(const Arguments &arguments);
     static LxpStatus run(const Arguments &arguments);
 };
 
@@ -92,6 +95,9 @@ struct ScalingMember {
         std::conditional_t<isArray, Count, OneObject>>;
     // clang-format on
 
+    static constexpr bool hasShortWay = !isArray;
+    static bool isShort(const Arguments &arguments);
+    static void runShort(const Arguments &arguments);
     static LxpStatus run(const Arguments &arguments);
 };
 

@@ -2,15 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "products/mul_members.h"
-#include "runtime/entry_call.h"
 
-namespace lxpm {
-
-#define INSTANTIATE_64f(operation, code, type, layout)                                                                 \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define INSTANTIATE_32f(operation, code, type, layout)
-#define MEMBER(operation, code, type, layout, name) INSTANTIATE_##type(operation, code, type, layout)
+#define ONLY_64f
 #define EXPORT_LIST "products/mul.list.h"
-#include "runtime/exports.h"
-
-} // namespace lxpm
+#include "runtime/instantiate.h"

@@ -5,6 +5,7 @@
 // How the members of Mul run. For the sources that instantiate them, one for each type.
 
 #include "products/mul.h"
+#include "products/one_product.h"
 #include "products/product.h"
 #include "products/scaling.h"
 #include "runtime/rows.h"
@@ -42,6 +43,27 @@ constexpr Work elementsOf(Work perObject, int count) {
 }
 
 } // namespace detail::mul
+
+template <Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline bool ProductMember<operands, T, memory>::isShort(const Arguments &arguments) {
+    return firstFailure<detail::mul::order>(arguments) == lxpStatusOk &&
+           isShortProduct(arguments.rows(), arguments.inner(), arguments.columns());
+}
+
+template <Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline void ProductMember<operands, T, memory>::runShort(const Arguments &arguments) {
+    const int rows = arguments.rows();
+    const int inner = arguments.inner();
+    const int columns = arguments.columns();
+    const auto a = arguments.firstOperand().object(rows, inner);
+    if constexpr (operands[1].shape == Shape::Vector) { // as a row: the vector times the transposed matrix
+        multiplyObject(1, inner, rows, arguments.secondOperand().object(1, inner), a.transposed(),
+                       arguments.destination().object(1, rows));
+    } else {
+        multiplyObject(rows, inner, columns, a, arguments.secondOperand().object(inner, columns),
+                       arguments.destination().object(rows, columns));
+    }
+}
 
 template <Code operands, class T, Layout memory>
 LxpStatus ProductMember<operands, T, memory>::run(const Arguments &arguments) {
@@ -83,6 +105,21 @@ LxpStatus ProductMember<operands, T, memory>::run(const Arguments &arguments) {
                                     .addend = std::nullopt,
                                     .dst = destination.addresses(rows, columns)});
     }
+}
+
+template <Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline bool ScalingMember<operands, T, memory>::isShort(const Arguments &arguments) {
+    const auto &size = std::get<3>(arguments.parts);
+    return firstFailure<detail::mul::order>(arguments) == lxpStatusOk && isSmall(size.height(), size.width());
+}
+
+template <Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline void ScalingMember<operands, T, memory>::runShort(const Arguments &arguments) {
+    const auto &[source, constant, destination, size, number] = arguments.parts;
+    const int width = size.width();
+    const int height = size.height();
+    mapObject(Times(), height, width, destination.object(height, width), source.object(height, width),
+              constant.object());
 }
 
 template <Code operands, class T, Layout memory>

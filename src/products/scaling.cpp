@@ -10,13 +10,6 @@ namespace lxpm {
 
 namespace {
 
-struct Times {
-    template <class Number>
-    Number operator()(Number element, Number constant) const {
-        return constant * element;
-    }
-};
-
 template <class T>
 struct TimesValue {
     T value;

@@ -10,6 +10,14 @@
 
 namespace lxpm {
 
+// The function of elements.
+struct Times {
+    template <class Number>
+    Number operator()(Number element, Number constant) const {
+        return constant * element;
+    }
+};
+
 // dst = value * src
 template <class T>
 LxpStatus multiplyByValue(T value, bool parallel, int count, int rows, int columns, const MapOperands<T, 1> &operands);

@@ -4,7 +4,6 @@
 #include "products/trace.h"
 
 #include "products/readers.h"
-#include "runtime/entry_call.h"
 #include "runtime/parallel.h"
 #include "runtime/rows.h"
 #include "runtime/work.h"
@@ -124,9 +123,7 @@ LxpStatus TraceMember<operands, T, memory>::run(const Arguments &arguments) {
     return traceObjects<T>(parallel, count, order, source.addresses(order, order), results.first);
 }
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "products/trace.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "products/trace.list.h"
+#include "runtime/instantiate.h"

@@ -4,7 +4,6 @@
 #include "products/transpose.h"
 
 #include "products/transposition.h"
-#include "runtime/entry_call.h"
 #include "runtime/rows.h"
 
 namespace lxpm {
@@ -33,9 +32,7 @@ LxpStatus TransposeMember<operands, T, memory>::run(const Arguments &arguments) 
     return lxpStatusOk;
 }
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "products/transpose.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "products/transpose.list.h"
+#include "runtime/instantiate.h"

@@ -9,6 +9,7 @@
 
 #include "products/product.h"
 #include "runtime/lanes.h"
+#include "runtime/one_object.h"
 
 #include <array>
 #include <cstddef>
@@ -24,7 +25,21 @@ class ElementRow {
     static constexpr int last = N - (registers - 1) * lanes;
 
 public:
+    ElementRow() = default;
+    explicit ElementRow(Lanes<T, lanes> only) requires(registers == 1) : part{only} {}
+
     static ElementRow zero() { return {}; }
+
+    // One by one: element(i) is the i-th one.
+    template <class F>
+    [[gnu::always_inline]] static ElementRow of(const F &element) {
+        ElementRow row;
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) {
+            row.part[i / lanes].vector[i % lanes] = element(i);
+        }
+        return row;
+    }
 
     static ElementRow load(const T *from) {
         ElementRow row;
@@ -60,6 +75,15 @@ public:
         }
     }
 
+    // Calls f(i, element) one by one.
+    template <class F>
+    [[gnu::always_inline]] void forEach(const F &f) const {
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) {
+            f(i, part[i / lanes].vector[i % lanes]);
+        }
+    }
+
     // Adds factor times another row.
     [[gnu::always_inline]] void add(T factor, const ElementRow &row) {
         const auto f = Lanes<T, lanes>::splat(factor);
@@ -78,12 +102,59 @@ private:
     std::array<Lanes<T, lanes>, registers> part = {};
 };
 
+// A row of an object as a register, and back: at once where its elements touch, else one by one.
+
+template <int N, class Object>
+[[gnu::always_inline]] inline auto loadRow(const Object &from, std::ptrdiff_t i) {
+    using Row = ElementRow<std::remove_const_t<typename Object::Element>, N>;
+    if constexpr (MovesByBytes<Object>) {
+        if (from.rowsTouch()) {
+            return Row::load(from.at(i, 0));
+        }
+    }
+    return Row::of([&](int j) { return *from.at(i, j); });
+}
+
+template <class Row, class Object>
+[[gnu::always_inline]] inline void storeRow(const Row &row, const Object &to, std::ptrdiff_t i) {
+    if constexpr (MovesByBytes<Object>) {
+        if (to.rowsTouch()) {
+            return row.store(to.at(i, 0));
+        }
+    }
+    row.forEach([&](int j, auto element) { *to.at(i, j) = element; });
+}
+
 // How far a kernel may count on what it is given.
 struct Given {
     bool singleB;   // the second operand is the same for all objects
     bool denseRows; // the destination's rows touch, so that a row may be stored over the beginning of the next one
     bool addend;
 };
+
+// The rows of one result. Addend: none or one.
+template <int Rows, bool denseRows, class Row, std::size_t Order, class A, class D, class... Addend>
+[[gnu::always_inline]] inline void multiplyRows(const A &a, const std::array<Row, Order> &b, const D &dst,
+                                                const Addend &...addend) {
+#pragma GCC unroll 8
+    for (int i = 0; i < Rows; ++i) {
+        Row sum = Row::zero();
+#pragma GCC unroll 8
+        for (std::size_t k = 0; k < Order; ++k) {
+            sum.add(*a.at(i, static_cast<std::ptrdiff_t>(k)), b[k]);
+        }
+        (sum.add(loadRow<static_cast<int>(Order)>(addend, i)), ...);
+        if constexpr (denseRows) {
+            if (i + 1 < Rows) {
+                sum.storeWhole(dst.at(i, 0));
+            } else {
+                sum.store(dst.at(i, 0));
+            }
+        } else {
+            storeRow(sum, dst, i);
+        }
+    }
+}
 
 template <class T, int Order, int Rows, Given given>
 void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
@@ -109,25 +180,13 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
         if constexpr (!given.singleB) {
             loadB(object);
         }
-        const T *a = p.a.at(object, 0, 0);
-        T *dst = p.dst.at(object, 0, 0);
-#pragma GCC unroll 8
-        for (int i = 0; i < Rows; ++i) {
-            Row sum = Row::zero();
-#pragma GCC unroll 8
-            for (int k = 0; k < Order; ++k) {
-                sum.add(*shifted(a, k * aElement), b[k]);
-            }
-            if constexpr (given.addend) {
-                sum.add(Row::load(p.addend->at(object, i, 0)));
-            }
-            if (given.denseRows && i + 1 < Rows) {
-                sum.storeWhole(dst);
-            } else {
-                sum.store(dst);
-            }
-            a = shifted(a, aRow);
-            dst = shifted(dst, dstRow);
+        const StridedObject<const T> a = {p.a.at(object, 0, 0), aRow, aElement};
+        const TouchingObject<T> dst({p.dst.at(object, 0, 0), dstRow, sizeof(T)});
+        if constexpr (given.addend) {
+            multiplyRows<Rows, given.denseRows>(
+                a, b, dst, TouchingObject<const T>({p.addend->at(object, 0, 0), p.addend->step[1], sizeof(T)}));
+        } else {
+            multiplyRows<Rows, given.denseRows>(a, b, dst);
         }
     }
 }

@@ -47,9 +47,9 @@ public:
 };
 
 template <InOrder order, class Arguments>
-constexpr LxpStatus firstFailure(const Arguments &arguments) {
+[[gnu::always_inline]] constexpr LxpStatus firstFailure(const Arguments &arguments) {
     LxpStatus status = lxpStatusOk;
-    [&]<std::size_t... step>(std::index_sequence<step...>) {
+    [&]<std::size_t... step>(std::index_sequence<step...>) __attribute__((always_inline)) {
         (void)((arguments.violates(order.check[step]) && ((status = statusOf(order.check[step])), true)) || ...);
     }
     (std::make_index_sequence<order.length>());

@@ -16,6 +16,7 @@
 
 #include "runtime/lanes.h"
 #include "runtime/nest.h"
+#include "runtime/runs.h"
 
 #include <algorithm>
 #include <array>
@@ -25,18 +26,6 @@
 #include <utility>
 
 namespace lxpm {
-
-// The function of copying. Elements go through registers unchanged, signalling NaN too: loads and stores quieten
-// nothing.
-struct Same {
-    template <class Number>
-    Number operator()(Number a) const {
-        return a;
-    }
-};
-
-// How a source moves along a run: its elements touch, or it is one element, or those of other runs touch, or anything.
-enum class Moves { Along, Nowhere, Across, Any };
 
 template <class T, class F, std::size_t sources>
 class Loops {
@@ -71,27 +60,6 @@ private:
         return source.step[1] == sizeof(T) ? Moves::Across : Moves::Any;
     }
 
-    // One source along a run.
-    template <Moves moves>
-    struct Source {
-        const T *first;
-        std::ptrdiff_t step;
-
-        // N elements from the i-th on.
-        template <int N>
-        auto elements(std::ptrdiff_t i) const {
-            if constexpr (moves == Moves::Any || moves == Moves::Across) {
-                return *shifted(first, i * step);
-            } else if constexpr (N == 1) {
-                return moves == Moves::Along ? first[i] : *first;
-            } else if constexpr (moves == Moves::Along) {
-                return Lanes<T, N>::load(first + i);
-            } else {
-                return Lanes<T, N>::splat(*first);
-            }
-        }
-    };
-
     // All runs. Rows, Length: the runs of the middle loop and the elements of a run where their numbers are known
     // beforehand, else 0. What stands inside is forced inline: a call for each run would cost more than the run.
     template <bool registers, int Rows, int Length, Moves... moves, std::size_t... s>
@@ -104,10 +72,10 @@ private:
         for (std::ptrdiff_t i = 0; i < nest.extent[0]; ++i) {
             for (std::ptrdiff_t j = 0; j < rows; ++j) {
                 if constexpr (registers) {
-                    runInRegisters(f, n, dst.at(i, j, 0), Source<moves>{src[s].at(i, j, 0), src[s].step[2]}...);
+                    runInRegisters(f, n, dst.at(i, j, 0), Run<T, moves>{src[s].at(i, j, 0), src[s].step[2]}...);
                 } else {
                     runOneByOne(f, n, dst.at(i, j, 0), dst.step[2],
-                                Source<moves>{src[s].at(i, j, 0), src[s].step[2]}...);
+                                Run<T, moves>{src[s].at(i, j, 0), src[s].step[2]}...);
                 }
             }
         }
@@ -177,34 +145,6 @@ private:
             for (std::ptrdiff_t j = 0; j < nest.extent[1]; ++j) {
                 std::memmove(dst.at(i, j, 0), src[0].at(i, j, 0), nest.extent[2] * sizeof(T));
             }
-        }
-    }
-
-    template <class... S>
-    [[gnu::always_inline]] static void runInRegisters(const F &f, std::ptrdiff_t n, T *dst, const S &...src) {
-        constexpr int full = fullLanes<T>;
-        std::ptrdiff_t i = 0;
-#pragma GCC unroll 4
-        for (; i + full <= n; i += full) {
-            f(src.template elements<full>(i)...).store(dst + i);
-        }
-        runInPieces<full / 2>(f, n, dst, i, src...);
-    }
-
-    // The elements from i on, fewer than 2 * N.
-    template <int N, class... S>
-    [[gnu::always_inline]] static void runInPieces(const F &f, std::ptrdiff_t n, T *dst, std::ptrdiff_t i,
-                                                   const S &...src) {
-        if constexpr (N == 1) {
-            if (i < n) {
-                dst[i] = f(src.template elements<1>(i)...);
-            }
-        } else {
-            if (i + N <= n) {
-                f(src.template elements<N>(i)...).store(dst + i);
-                i += N;
-            }
-            runInPieces<N / 2>(f, n, dst, i, src...);
         }
     }
 

@@ -7,6 +7,7 @@
 
 #include "runtime/addresses.h"
 #include "runtime/checks.h"
+#include "runtime/one_object.h"
 
 #include <array>
 #include <cstddef>
@@ -146,7 +147,7 @@ public:
     template <class... Int>
     explicit constexpr Operand(Lead first, Int... rest) : lead(first), integer{rest...} {}
 
-    constexpr bool violates(Check check) const {
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
         switch (check) {
         case Check::Pointers:
             if constexpr (form != Form::Value) {
@@ -173,6 +174,20 @@ public:
 
     // A constant by value.
     constexpr Value value() const requires(form == Form::Value) { return lead; }
+
+    // A single object, in rows and columns of the operation.
+    constexpr auto object([[maybe_unused]] int height = 1, [[maybe_unused]] int width = 1) const requires(!kind.array) {
+        if constexpr (form == Form::Value) {
+            return ConstantObject<Value>{lead};
+        } else if constexpr (form == Form::ElementPointers) {
+            const PointedObject<Element> stored = {lead, offset(), width, 1};
+            return kind.shape == Shape::Transposed ? PointedObject<Element>{lead, offset(), 1, height} : stored;
+        } else {
+            const StridedObject<Element> stored = {lead, stride(hasRowStride, rowStrideAt),
+                                                   stride(hasElemStride, elemStrideAt)};
+            return kind.shape == Shape::Transposed ? stored.transposed() : stored;
+        }
+    }
 
     // Where the elements stand, in rows and columns of the operation: those of a transposed operand are exchanged here
     // and nowhere else. A constant by value is its own address, so the operand has to outlive the addresses.
@@ -207,7 +222,7 @@ private:
     }
 
     template <class Predicate>
-    constexpr bool anyInteger(int from, int to, Predicate predicate) const {
+    [[gnu::always_inline]] constexpr bool anyInteger(int from, int to, Predicate predicate) const {
         bool any = false;
         for (int i = from; i < to; ++i) {
             any |= predicate(integer[static_cast<std::size_t>(i)]);
@@ -228,7 +243,13 @@ struct DenseDestination {
 
     explicit constexpr DenseDestination(Element *address) : first(address) {}
 
-    constexpr bool violates(Check check) const { return check == Check::Pointers && first == nullptr; }
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
+        return check == Check::Pointers && first == nullptr;
+    }
+
+    constexpr StridedObject<Element> object(int, int width) const {
+        return {first, std::ptrdiff_t(width) * std::ptrdiff_t(sizeof(Element)), sizeof(Element)};
+    }
 
     constexpr Addresses<Element> addresses(int height, int width) const {
         const std::ptrdiff_t row = std::ptrdiff_t(width) * std::ptrdiff_t(sizeof(Element));
@@ -245,7 +266,7 @@ struct Sizes {
     template <class... Int>
     explicit constexpr Sizes(Int... sizes) : size{sizes...} {}
 
-    constexpr bool violates(Check check) const {
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
         bool any = false;
         for (int s : size) {
             any |= s < 1;
@@ -281,7 +302,9 @@ struct ScalarResults {
     T *first;
 
     explicit constexpr ScalarResults(T *results) : first(results) {}
-    constexpr bool violates(Check check) const { return check == Check::Pointers && first == nullptr; }
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
+        return check == Check::Pointers && first == nullptr;
+    }
 };
 
 struct Count {
@@ -289,7 +312,7 @@ struct Count {
     int value;
 
     explicit constexpr Count(int count) : value(count) {}
-    constexpr bool violates(Check check) const { return check == Check::Count && value < 1; }
+    [[gnu::always_inline]] constexpr bool violates(Check check) const { return check == Check::Count && value < 1; }
 };
 
 // In the place of Count where no operand is an array.
@@ -297,7 +320,7 @@ struct OneObject {
     using Parameters = TypeList<>;
     static constexpr int value = 1;
 
-    constexpr bool violates(Check) const { return false; }
+    [[gnu::always_inline]] constexpr bool violates(Check) const { return false; }
 };
 
 // The argument list of an export: what its parts contribute, one behind the other.
@@ -320,7 +343,7 @@ public:
     explicit constexpr Arguments(P... parameters)
         : Arguments(std::tuple<P...>(parameters...), std::index_sequence_for<Parts...>()) {}
 
-    constexpr bool violates(Check check) const {
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
         return std::apply([check](const Parts &...part) { return (part.violates(check) || ...); }, parts);
     }
 

@@ -40,33 +40,47 @@ std::size_t workerStackSize() {
     return 0;
 }
 
-// Where the threads of a trial wait until all of them have been started, so that they exist at the same time.
+// Where the threads of a trial wait until all of them stand here, so that they exist at the same time.
 class Gate {
 public:
     void wait() {
         pthread_mutex_lock(&mutex);
+        ++waiting;
+        pthread_cond_broadcast(&changed);
         while (!open) {
-            pthread_cond_wait(&opened, &mutex);
+            pthread_cond_wait(&changed, &mutex);
         }
         pthread_mutex_unlock(&mutex);
     }
-    void release() {
+    void releaseWhenAllWait(int threads) {
         pthread_mutex_lock(&mutex);
+        while (waiting < threads) {
+            pthread_cond_wait(&changed, &mutex);
+        }
         open = true;
-        pthread_cond_broadcast(&opened);
+        pthread_cond_broadcast(&changed);
         pthread_mutex_unlock(&mutex);
     }
 
 private:
     pthread_mutex_t mutex = PTHREAD_MUTEX_INITIALIZER;
-    pthread_cond_t opened = PTHREAD_COND_INITIALIZER;
+    pthread_cond_t changed = PTHREAD_COND_INITIALIZER;
+    int waiting = 0;
     bool open = false;
 };
 
-void *waitAtGate(void *gate) {
+// A thread of a trial takes what a worker takes: its stack, and the address space that the C library sets aside for the
+// memory of a thread.
+void *standInForWorker(void *gate) {
+    void *volatile memory = std::malloc(1);
     static_cast<Gate *>(gate)->wait();
+    std::free(memory);
     return nullptr;
 }
+
+// Runtimes add something of their own to a worker's stack. The stacks of a trial are kept for the threads that come
+// next, but only for such that ask for no more.
+constexpr std::size_t stackMargin = 64 * 1024;
 
 // How many of `wanted` threads the system starts beside the calling one.
 int startable(int wanted) {
@@ -74,18 +88,19 @@ int startable(int wanted) {
     if (pthread_attr_init(&attributes) != 0) {
         return 0;
     }
-    if (const std::size_t stack = workerStackSize(); stack != 0) {
-        (void)pthread_attr_setstacksize(&attributes,
-                                        stack); // a size that the system refuses is ignored by runtimes too
+    std::size_t stack = workerStackSize();
+    if (stack != 0 || pthread_attr_getstacksize(&attributes, &stack) == 0) {
+        // A size that the system refuses is ignored by runtimes too.
+        (void)pthread_attr_setstacksize(&attributes, stack + stackMargin);
     }
     auto *threads = static_cast<pthread_t *>(std::malloc(static_cast<std::size_t>(wanted) * sizeof(pthread_t)));
     int started = 0;
     if (threads != nullptr) {
         Gate gate;
-        while (started < wanted && pthread_create(&threads[started], &attributes, waitAtGate, &gate) == 0) {
+        while (started < wanted && pthread_create(&threads[started], &attributes, standInForWorker, &gate) == 0) {
             ++started;
         }
-        gate.release();
+        gate.releaseWhenAllWait(started);
         for (int i = 0; i < started; ++i) {
             pthread_join(threads[i], nullptr);
         }

@@ -1,20 +1,21 @@
 // Copyright (c) 2026 The lxpm authors
 // SPDX-License-Identifier: MIT
+#pragma once
+
+// How the members of Add and Sub run. For the sources that instantiate them, one for each type.
 
 #include "elementwise/add_sub.h"
-
-#include "runtime/entry_call.h"
 #include "runtime/map.h"
 #include "runtime/rows.h"
 #include "runtime/work.h"
 
 namespace lxpm {
 
-namespace {
+namespace detail::sum {
 
 // The orders of the checks. A strided array of matrices with one matrix looks at the strides before the sizes, and an
 // array of vectors with one vector at the count late.
-constexpr Row<InOrder> orders[] = {
+inline constexpr Row<InOrder> orders[] = {
     {"mam mma", Layouts::S, Types::Both, {Check::Pointers, Check::Count, Check::Strides, Check::Sizes}},
     {"vav", Layouts::S, Types::Both, {Check::Pointers, Check::Sizes, Check::Strides, Check::Count}},
     {"vav", Layouts::L, Types::Both, {Check::Pointers, Check::Sizes, Check::Strides, Check::Offsets, Check::Count}},
@@ -26,9 +27,9 @@ constexpr Row<InOrder> orders[] = {
 };
 
 // When an array is serial.
-constexpr Codes matrices = "mam tam mat tat mama tama tata mata mma mta tma tta";
-constexpr Codes vectors = "vav vva vava vca vac vaca cva cav cava";
-constexpr Row<Thresholds> thresholds[] = {
+inline constexpr Codes matrices = "mam tam mat tat mama tama tata mata mma mta tma tta";
+inline constexpr Codes vectors = "vav vva vava vca vac vaca cva cav cava";
+inline constexpr Row<Thresholds> thresholds[] = {
     //                                   contiguous   strided
     {matrices, Layouts::S, Types::F32, {serialBelow(3000), serialBelow(2000)}},
     {matrices, Layouts::S, Types::F64, {serialBelow(2000), serialBelow(2000)}},
@@ -52,11 +53,28 @@ Work workOf(int width, int height, int count) {
     return operand(first) + operand(second) + perObject * count;
 }
 
-} // namespace
+} // namespace detail::sum
+
+template <class Op, Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline bool SumMember<Op, operands, T, memory>::isShort(const Arguments &arguments) {
+    const auto &size = std::get<3>(arguments.parts);
+    return firstFailure<rowOf<SumMember, detail::sum::orders>>(arguments) == lxpStatusOk &&
+           isSmall(size.height(), size.width());
+}
+
+template <class Op, Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline void SumMember<Op, operands, T, memory>::runShort(const Arguments &arguments) {
+    const auto &[first, second, destination, size, number] = arguments.parts;
+    const int width = size.width();
+    const int height = size.height();
+    mapObject(Operation(), height, width, destination.object(height, width), first.object(height, width),
+              second.object(height, width));
+}
 
 template <class Op, Code operands, class T, Layout memory>
 LxpStatus SumMember<Op, operands, T, memory>::run(const Arguments &arguments) {
-    if (const LxpStatus status = firstFailure<rowOf<SumMember, orders>>(arguments); status != lxpStatusOk) {
+    if (const LxpStatus status = firstFailure<rowOf<SumMember, detail::sum::orders>>(arguments);
+        status != lxpStatusOk) {
         return status;
     }
     const auto &[first, second, destination, size, number] = arguments.parts;
@@ -67,22 +85,13 @@ LxpStatus SumMember<Op, operands, T, memory>::run(const Arguments &arguments) {
     bool parallel = false;
     if constexpr (isArray) {
         const bool isContiguous = first.isContiguous() && second.isContiguous() && destination.isContiguous();
-        parallel = rowOf<SumMember, thresholds>.isParallel(workOf<SumMember>(width, height, count), isContiguous);
+        parallel = rowOf<SumMember, detail::sum::thresholds>.isParallel(
+            detail::sum::workOf<SumMember>(width, height, count), isContiguous);
     }
     const Addresses<const T> sources[] = {first.addresses(height, width), second.addresses(height, width)};
     return mapElements<T, Operation, 2>(
         Operation(), parallel, count, height, width,
         {destination.addresses(height, width), {sources[isReversed ? 1 : 0], sources[isReversed ? 0 : 1]}});
 }
-
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "elementwise/add.list.h"
-#include "runtime/exports.h"
-
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "elementwise/sub.list.h"
-#include "runtime/exports.h"
 
 } // namespace lxpm
