@@ -40,6 +40,7 @@ struct Case {
 std::vector<Case> allCases();
 void appendAddSub(std::vector<Case> &cases);
 void appendMoving(std::vector<Case> &cases);
+void appendProducts(std::vector<Case> &cases);
 void appendReductions(std::vector<Case> &cases);
 void appendGraphics(std::vector<Case> &cases);
 

@@ -9,6 +9,7 @@ std::vector<Case> allCases() {
     std::vector<Case> cases;
     appendAddSub(cases);
     appendMoving(cases);
+    appendProducts(cases);
     appendReductions(cases);
     appendGraphics(cases);
     return cases;

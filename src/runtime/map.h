@@ -39,7 +39,8 @@ void mapScattered(const F &f, Nest<T, sources> nest) {
 
 // The objects of an array whose elements all touch make one long run, but not together with a single object that is
 // used with each of them: there, each small object would end in scraps of registers. So the single object is written
-// side by side until it fills whole registers, and used with that many objects at a time.
+// side by side until it fills whole registers, and used with that many objects at a time. Where these registers are few
+// they stay loaded; otherwise the tile is made longer and read again and again.
 template <class T, std::size_t sources>
 class Tiling {
 public:
@@ -73,7 +74,10 @@ public:
         using Loops = lxpm::Loops<T, F, sources>;
         const std::ptrdiff_t n = nest.extent[2];
         const std::ptrdiff_t objects = nest.extent[1];
-        const std::ptrdiff_t objectsPerTile = objectsFor(n);
+        const std::ptrdiff_t fewestObjects = fullLanes<T> / std::gcd(n, std::ptrdiff_t(fullLanes<T>));
+        const std::ptrdiff_t registers = fewestObjects * n / fullLanes<T>;
+        const bool staysLoaded = registers <= mostRegisters && othersTouch(nest, tiled);
+        const std::ptrdiff_t objectsPerTile = staysLoaded ? fewestObjects : longTile(n, fewestObjects);
 
         T tile[largestObject * fullLanes<T> + shortestTile];
         Addresses<const T> &source = nest.operand.src[tiled];
@@ -85,7 +89,11 @@ public:
         source = Addresses<const T>::strided(tile, {0, 0, sizeof(T)});
 
         nest.extent = {1, objects / objectsPerTile, objectsPerTile * n};
-        Loops::choose(nest)(f, nest);
+        if (staysLoaded) {
+            chooseLoaded<F, 0>(tiled, registers)(f, nest, tile);
+        } else {
+            Loops::choose(nest)(f, nest);
+        }
 
         nest.advance(1, nest.extent[1]);
         nest.extent = {1, 1, objects % objectsPerTile * n};
@@ -93,19 +101,76 @@ public:
     }
 
 private:
+    using L = Lanes<T, fullLanes<T>>;
+
+    static constexpr int mostRegisters = 9;             // that leave room for what is read
     static constexpr std::ptrdiff_t enough = 32;        // objects, for the tile to pay
     static constexpr std::ptrdiff_t largestObject = 64; // elements; in larger ones the scraps do not matter
     static constexpr std::ptrdiff_t shortestTile = 64;  // elements; with shorter ones the time goes between the runs
+
+    static bool othersTouch(const Nest<T, sources> &nest, std::size_t tiled) {
+        bool all = true;
+        for (std::size_t s = 0; s < sources; ++s) {
+            all &= s == tiled || touches(nest.operand.src[s], nest.extent[2]);
+        }
+        return all;
+    }
 
     template <class E>
     static bool touches(const Addresses<E> &operand, std::ptrdiff_t n) {
         return operand.step[2] == sizeof(T) && operand.step[1] == n * operand.step[2];
     }
 
-    static std::ptrdiff_t objectsFor(std::ptrdiff_t n) {
-        const std::ptrdiff_t wholeRegisters = fullLanes<T> / std::gcd(n, static_cast<std::ptrdiff_t>(fullLanes<T>));
+    static std::ptrdiff_t longTile(std::ptrdiff_t n, std::ptrdiff_t fewestObjects) {
         const std::ptrdiff_t wanted = (shortestTile + n - 1) / n;
-        return (wanted + wholeRegisters - 1) / wholeRegisters * wholeRegisters;
+        return (wanted + fewestObjects - 1) / fewestObjects * fewestObjects;
+    }
+
+    template <class F>
+    using Loop = void (*)(const F &, const Nest<T, sources> &, const T *);
+
+    // The loop for a tile of so many registers in the place of one source.
+    template <class F, std::size_t source>
+    static Loop<F> chooseLoaded(std::size_t tiled, std::ptrdiff_t registers) {
+        if constexpr (source < sources) {
+            return source == tiled ? chooseRegisters<F, source, 1>(registers)
+                                   : chooseLoaded<F, source + 1>(tiled, registers);
+        } else {
+            return nullptr; // one of them is tiled
+        }
+    }
+
+    template <class F, std::size_t source, int registers>
+    static Loop<F> chooseRegisters(std::ptrdiff_t wanted) {
+        if constexpr (registers < mostRegisters) {
+            return wanted == registers ? overLoaded<F, source, registers>
+                                       : chooseRegisters<F, source, registers + 1>(wanted);
+        } else {
+            return overLoaded<F, source, registers>;
+        }
+    }
+
+    template <class F, std::size_t tiled, int registers>
+    static void overLoaded(const F &function, const Nest<T, sources> &shared, const T *tile) {
+        const Nest<T, sources> nest = shared;
+        const F f = function;
+        std::array<L, registers> loaded;
+        for (int r = 0; r < registers; ++r) {
+            loaded[r] = L::load(tile + r * fullLanes<T>);
+        }
+        [&]<std::size_t... s>(std::index_sequence<s...>) {
+            T *dst = nest.operand.dst.at(0, 0, 0);
+            std::array<const T *, sources> src = {nest.operand.src[s].at(0, 0, 0)...};
+            for (std::ptrdiff_t i = 0; i < nest.extent[1]; ++i) {
+#pragma GCC unroll 16
+                for (int r = 0; r < registers; ++r) {
+                    f((s == tiled ? loaded[r] : L::load(src[s] + r * fullLanes<T>))...).store(dst + r * fullLanes<T>);
+                }
+                dst += registers * fullLanes<T>;
+                ((src[s] += s == tiled ? 0 : registers * fullLanes<T>), ...);
+            }
+        }
+        (std::make_index_sequence<sources>());
     }
 };
 

@@ -66,7 +66,7 @@ void verify(const Export &item, const Shape &shape, int count, const std::vector
 Report checkParameterTypes(const Export &item) {
     Report report;
     const std::vector<Parameter> expected = parametersOf(item.model);
-    const std::vector<std::string> &actual = item.function.parameterTypes();
+    const std::vector<std::string> actual = item.function.parameterTypes();
     report.countCase();
     if (actual.size() != expected.size()) {
         report.complain(item.model.name + " has " + std::to_string(actual.size()) + " parameters, expected " +

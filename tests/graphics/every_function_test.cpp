@@ -122,7 +122,7 @@ LxpStatus rotateWithNegation(float angle, float *dst) {
 }
 
 /// Reads a fourth element.
-LxpStatus addWhole(const float *src1, const float *src2, float *dst) {
+[[maybe_unused]] LxpStatus addWhole(const float *src1, const float *src2, float *dst) {
     volatile float beyond = src1[3];
     (void)beyond;
     return reference::lxpmAdd_v3_32f(src1, src2, dst);

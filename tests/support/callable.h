@@ -45,12 +45,12 @@ class Callable {
 public:
     template <class... Parameters>
     explicit Callable(LxpStatus (*function)(Parameters...))
-        : function_(reinterpret_cast<Erased>(function)),
-          invoke_(&invoke<Parameters...>), parameterTypes_{typeText<Parameters>()...} {}
+        : function_(reinterpret_cast<Erased>(function)), invoke_(&invoke<Parameters...>),
+          typeTexts_(&typeTexts<Parameters...>) {}
 
     LxpStatus operator()(std::span<const Argument> arguments) const { return invoke_(function_, arguments); }
 
-    const std::vector<std::string> &parameterTypes() const { return parameterTypes_; }
+    std::vector<std::string> parameterTypes() const { return typeTexts_(); }
 
 private:
     using Erased = void (*)();
@@ -66,6 +66,11 @@ private:
         (std::index_sequence_for<Parameters...>());
     }
 
+    template <class... Parameters>
+    static std::vector<std::string> typeTexts() {
+        return {typeText<Parameters>()...};
+    }
+
     template <class T>
     static T to(const Argument &argument) {
         if constexpr (std::is_pointer_v<T>) {
@@ -77,7 +82,7 @@ private:
 
     Erased function_;
     LxpStatus (*invoke_)(Erased, std::span<const Argument>);
-    std::vector<std::string> parameterTypes_;
+    std::vector<std::string> (*typeTexts_)();
 };
 
 } // namespace lxpm::test

@@ -65,13 +65,27 @@ Layout layoutFromText(std::string_view text) {
 } // namespace
 
 const std::vector<Export> &familyExports() {
+    // The words of the list as they stand: a table is compiled fast, hundreds of calls are not.
+    struct Line {
+        const char *name;
+        const char *operation;
+        const char *code;
+        const char *type;
+        const char *layout;
+        Callable function;
+    };
     static const std::vector<Export> exports = [] {
-        std::vector<Export> list;
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    list.push_back(                                                                                                    \
-        {describe({#name, #operation, #code, typeFromText(#type), layoutFromText(#layout)}), Callable(&name)});
+        const Line lines[] = {
+#define MEMBER(operation, code, type, layout, name) {#name, #operation, #code, #type, #layout, Callable(&name)},
 #define EXPORT(name)
 #include "runtime/exports.h"
+        };
+        std::vector<Export> list;
+        for (const Line &line : lines) {
+            list.push_back(
+                {describe({line.name, line.operation, line.code, typeFromText(line.type), layoutFromText(line.layout)}),
+                 line.function});
+        }
         return list;
     }();
     return exports;

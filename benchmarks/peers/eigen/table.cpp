@@ -8,6 +8,7 @@ extern "C" const lxpm::bench::PeerTable *LXPM_PEER_TABLE() {
         lxpm::bench::PeerTable table;
         lxpm::bench::eigen::addAddSub(table);
         lxpm::bench::eigen::addMoving(table);
+        lxpm::bench::eigen::addProducts(table);
         lxpm::bench::eigen::addReductions(table);
         lxpm::bench::eigen::addGraphics(table);
         return table;
