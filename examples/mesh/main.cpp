@@ -36,7 +36,8 @@ void computeSurface(Surface &surface, Job &job) {
 
 void computeViews(const Surface &surface, Stage &stage, Job &job) {
     job.run(rotations(stage));
-    job.run(camera(stage));
+    job.run(cameras(stage));
+    job.run(perspective(stage));
     job.run(turnedVertices(surface, stage));
     job.run(projectedVertices(stage));
 }
@@ -85,9 +86,9 @@ void writePicture(const Surface &surface, const Stage &stage, const Options &opt
 int run(const Options &options, Clock::time_point programBegin) {
     Progress progress;
     Surface surface(readMesh(options.input, progress));
-    Stage stage(options.views, surface.vertices.size(), options.size * samplesPerPixel);
     Job job(options.repeat, progress);
     computeSurface(surface, job);
+    Stage stage(options.views, surface.vertices, options.size * samplesPerPixel);
     computeViews(surface, stage, job);
     progress.clear();
 

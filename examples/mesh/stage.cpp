@@ -4,6 +4,7 @@
 #include "stage.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numbers>
 #include <utility>
 
@@ -22,11 +23,6 @@ constexpr View allViews[] = {
 
 } // namespace
 
-// 4.3 away, 0.2 radians above the horizon.
-const Point eye = {0, 0.854f, 4.214f};
-const Point lookedAt = {0, 0, 0};
-const Point upwards = {0, 1, 0};
-
 const View *findView(std::string_view name) {
     const View *found =
         std::find_if(std::begin(allViews), std::end(allViews), [name](const View &view) { return view.name == name; });
@@ -37,9 +33,23 @@ std::string_view viewNames() {
     return "quarter, front, right, back, left, above, below";
 }
 
-Stage::Stage(std::vector<View> viewsToShow, std::size_t vertexCount, int size)
+Stage::Stage(std::vector<View> viewsToShow, const std::vector<Vertex> &vertices, int size)
     : views(std::move(viewsToShow)), rasterSize(static_cast<float>(size)), rotations(views.size()),
-      turned(views.size(), std::vector<Vertex>(vertexCount)), projected(views.size(), std::vector<Point>(vertexCount)) {
+      targets(views.size()), eyes(views.size()), cameras(views.size()),
+      turned(views.size(), std::vector<Vertex>(vertices.size())),
+      projected(views.size(), std::vector<Point>(vertices.size())) {
+    const auto [lower, upper] = boundsOf(vertices);
+    for (int j = 0; j < 3; ++j) {
+        middle[j] = (lower[j] + upper[j]) / 2;
+    }
+    float radius = 0;
+    for (const auto &[p, normal] : vertices) {
+        radius = std::max(radius, std::hypot(p[0] - middle[0], p[1] - middle[1], p[2] - middle[2]));
+    }
+    const float distance = 4 * radius;
+    eyeOffset = {0, 0.2f * distance, 0.98f * distance};
+    nearest = 2.9f * radius;
+    farthest = 5.1f * radius;
 }
 
 } // namespace lxpm::mesh

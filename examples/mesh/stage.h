@@ -22,24 +22,32 @@ const View *findView(std::string_view name);
 // The names of all views, for messages.
 std::string_view viewNames();
 
-// What is needed to see the mesh from all views, and what the steps compute for it.
+// What is needed to see the mesh from all views, and what the steps compute for it. The camera stands a little above
+// the middle of the mesh, four times as far from it as any of its vertices, so the mesh fills the picture from every
+// side.
 struct Stage {
-    Stage(std::vector<View> views, std::size_t vertexCount, int rasterSize);
+    Stage(std::vector<View> views, const std::vector<Vertex> &vertices, int rasterSize);
 
     std::vector<View> views;
     float rasterSize; // of the square viewport
+    Point middle;     // of the box around the mesh, before it is turned
+    Point eyeOffset;  // from there to the camera
+    float nearest, farthest;
 
-    std::vector<Matrix4> rotations;            // for each view
-    Matrix4 camera{}, projection{};            //
-    std::vector<std::vector<Vertex>> turned;   // for each view
-    std::vector<std::vector<Point>> projected; // for each view: to the viewport, z being the depth from 0 to 1
+    // for each view
+    std::vector<Matrix4> rotations;
+    std::vector<Point> targets; // the middle, turned
+    std::vector<Point> eyes;
+    std::vector<Matrix4> cameras;
+
+    Matrix4 projection{};
+
+    // for each view, all vertices
+    std::vector<std::vector<Vertex>> turned;
+    std::vector<std::vector<Point>> projected; // to the viewport, z being the depth from 0 to 1
 };
 
-// The camera: a little above the mesh, which is inside of the unit sphere and fills the picture.
-constexpr float fieldOfView = 0.5f; // radians
-extern const Point eye;
-extern const Point lookedAt;
-extern const Point upwards;
-constexpr float nearest = 3, farthest = 6; // depths in front of and behind the mesh
+constexpr Point upwards = {0, 1, 0};
+constexpr float fieldOfView = 0.52f; // radians, a little more than what the sphere around the mesh takes
 
 } // namespace lxpm::mesh

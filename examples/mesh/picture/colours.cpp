@@ -25,9 +25,25 @@ float typicalLargest(const std::vector<float> &curvatures) {
     return *ninth;
 }
 
+// Each value becomes the mean of itself and its neighbours, which takes the noise of a scanned surface away.
+std::vector<float> smoothed(const std::vector<float> &values, const std::vector<Edge> &edges) {
+    std::vector<float> sums = values, counts(values.size(), 1);
+    for (const auto &[a, b] : edges) {
+        sums[a] += values[b];
+        sums[b] += values[a];
+        ++counts[a];
+        ++counts[b];
+    }
+    for (std::size_t k = 0; k < sums.size(); ++k) {
+        sums[k] /= counts[k];
+    }
+    return sums;
+}
+
 } // namespace
 
-std::vector<Colour> coloursOf(const std::vector<float> &curvatures) {
+std::vector<Colour> coloursOf(const Surface &surface) {
+    const std::vector<float> curvatures = smoothed(surface.meanCurvatures, surface.edges);
     const float scale = typicalLargest(curvatures);
     std::vector<Colour> colours;
     for (const float curvature : curvatures) {

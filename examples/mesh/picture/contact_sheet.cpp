@@ -42,7 +42,7 @@ Image drawContactSheet(const Surface &surface, const Stage &stage, int viewSize,
     const int rows = (views + columns - 1) / columns;
     Image sheet(columns * viewSize, rows * viewSize, background);
 
-    const std::vector<Colour> colours = coloursOf(surface.meanCurvatures);
+    const std::vector<Colour> colours = coloursOf(surface);
     for (int view = 0; view < views; ++view) {
         progress.show("drawing", static_cast<std::size_t>(view), stage.views.size());
         const Raster raster = drawView(surface, stage, static_cast<std::size_t>(view), colours);

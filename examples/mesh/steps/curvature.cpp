@@ -23,7 +23,7 @@ Step crossMatrices(Surface &surface) {
     const std::array<float *, 3> minus = {&first[1][2], &first[2][0], &first[0][1]};
     return {
         .name = "matrices of n x",
-        .function = "lxpm{Copy_va,Mul_vac}_P",
+        .function = "lxpmCopy_va_32f_PP, Mul_vac_P",
         .objects = surface.triangles.size(),
         .compute =
             [&surface, plus, minus, normals = elementPointers(std::as_const(surface.unitNormals))] {

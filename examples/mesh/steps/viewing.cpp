@@ -21,7 +21,7 @@ constexpr int rowStride4 = 4 * floatStride;
 Step rotations(Stage &stage) {
     return {
         .name = "rotations of the views",
-        .function = "lxpmRotationYawPitchRoll",
+        .function = "lxpmRotationYawPitchRoll_m4_32f",
         .objects = stage.views.size(),
         .compute =
             [&stage] {
@@ -67,58 +67,94 @@ Real3 normalised(const Real3 &v) {
     return {v[0] / length(v), v[1] / length(v), v[2] / length(v)};
 }
 
-void compareCamera(const Matrix4 &camera, Deviation &deviation) {
-    const Real3 z = normalised(minus(real(eye), real(lookedAt)));
+void compareCamera(const Stage &stage, std::size_t v, Deviation &deviation) {
+    const Real3 target = real(stage.targets[v]), eye = real(stage.eyes[v]);
+    const Matrix4 &rotation = stage.rotations[v], &camera = stage.cameras[v];
+    for (int j = 0; j < 3; ++j) {
+        const Real3 column = {rotation[j], rotation[4 + j], rotation[8 + j]};
+        deviation.add(target[j], dot(column, real(stage.middle)),
+                      dot(magnitudes(column), magnitudes(real(stage.middle))));
+        deviation.add(eye[j], target[j] + stage.eyeOffset[j], std::abs(target[j]) + std::abs(stage.eyeOffset[j]));
+    }
+
+    const Real3 z = normalised(minus(eye, target));
     const Real3 x = normalised(cross(real(upwards), z));
     const std::array<Real3, 3> axes = {x, cross(z, x), z};
     for (int c = 0; c < 3; ++c) {
         for (int r = 0; r < 3; ++r) {
             deviation.add(camera[4 * r + c], axes[c][r], 1); // an axis has length 1
         }
-        deviation.add(camera[4 * 3 + c], -dot(axes[c], real(eye)), length(real(eye)));
+        deviation.add(camera[4 * 3 + c], -dot(axes[c], eye), length(eye));
     }
     for (int r = 0; r < 4; ++r) {
         deviation.add(camera[4 * r + 3], r == 3, 1);
     }
 }
 
-void compareProjection(const Matrix4 &projection, Deviation &deviation) {
-    const double scale = 1 / std::tan(0.5 * fieldOfView);
-    const double depthRange = double(nearest) - farthest;
-    std::array<double, 16> exact{};
-    exact[0] = exact[5] = scale;
-    exact[10] = farthest / depthRange;
-    exact[11] = -1;
-    exact[14] = double(nearest) * farthest / depthRange;
-    for (std::size_t i = 0; i < exact.size(); ++i) {
-        deviation.add(projection[i], exact[i], exact[i]);
-    }
-}
-
 } // namespace
 
-Step camera(Stage &stage) {
+// The camera looks at the middle of the mesh wherever the view's rotation takes it.
+Step cameras(Stage &stage) {
+    const auto computeOne = [&stage](std::size_t v) {
+        float *target = stage.targets[v].data(), *eye = stage.eyes[v].data();
+        LxpStatus status = lxpmAffineTransformNormal_m4v3_32f(stage.rotations[v].data(), stage.middle.data(), target);
+        if (status == lxpStatusOk) {
+            status = lxpmAdd_v3_32f(target, stage.eyeOffset.data(), eye);
+        }
+        return status != lxpStatusOk ? status
+                                     : lxpmLookAtRH_m4_32f(eye, target, upwards.data(), stage.cameras[v].data());
+    };
     return {
-        .name = "look-at, perspective",
-        .function = "lxpm{LookAt,Persp...}RH",
-        .objects = 2,
+        .name = "cameras of the views",
+        .function = "lxpmLookAtRH_m4_32f",
+        .objects = stage.views.size(),
         .compute =
-            [&stage] {
-                const LxpStatus status =
-                    lxpmLookAtRH_m4_32f(eye.data(), lookedAt.data(), upwards.data(), stage.camera.data());
-                return status != lxpStatusOk
-                           ? status
-                           : lxpmPerspectiveFovRH_m4_32f(fieldOfView, 1, nearest, farthest, stage.projection.data());
+            [&stage, computeOne] {
+                LxpStatus status = lxpStatusOk;
+                for (std::size_t v = 0; v < stage.views.size() && status == lxpStatusOk; ++v) {
+                    status = computeOne(v);
+                }
+                return status;
             },
-        // The look-at axes: z is a difference, normalised; x a cross product with it, normalised; y a cross product of
-        // both; and each is multiplied with the eye. What one takes over from another counts fully.
+        // The axes: z is a difference, normalised; x a cross product with it, normalised; y a cross product of both;
+        // and each is multiplied with the eye. What one takes over from another counts fully.
         .limit = (1 + roundingsOfNormalising) + (roundingsOfCross + roundingsOfNormalising) + roundingsOfCross +
                  (1 + roundingsOfNormalising) + roundingsOfDot,
         .deviation =
             [&stage] {
                 Deviation deviation;
-                compareCamera(stage.camera, deviation);
-                compareProjection(stage.projection, deviation);
+                for (std::size_t v = 0; v < stage.views.size(); ++v) {
+                    compareCamera(stage, v, deviation);
+                }
+                return deviation;
+            },
+    };
+}
+
+Step perspective(Stage &stage) {
+    return {
+        .name = "perspective",
+        .function = "lxpmPerspectiveFovRH_m4_32f",
+        .objects = 1,
+        .compute =
+            [&stage] {
+                return lxpmPerspectiveFovRH_m4_32f(fieldOfView, 1, stage.nearest, stage.farthest,
+                                                   stage.projection.data());
+            },
+        .limit = 2 * roundingsOfSine + 1, // cosine by sine; less for the depths
+        .deviation =
+            [&stage] {
+                const double scale = 1 / std::tan(0.5 * fieldOfView);
+                const double depthRange = double(stage.nearest) - stage.farthest;
+                std::array<double, 16> exact{};
+                exact[0] = exact[5] = scale;
+                exact[10] = stage.farthest / depthRange;
+                exact[11] = -1;
+                exact[14] = double(stage.nearest) * stage.farthest / depthRange;
+                Deviation deviation;
+                for (std::size_t i = 0; i < exact.size(); ++i) {
+                    deviation.add(stage.projection[i], exact[i], exact[i]);
+                }
                 return deviation;
             },
     };
@@ -187,10 +223,11 @@ Homogeneous times(const Homogeneous &p, const Matrix4 &m) {
 
 constexpr Matrix4 identity = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
 
-void compareProjected(const Point &projected, const Point &position, const Stage &stage, Deviation &deviation) {
-    const auto [x, y, z] = real(position);
+void compareProjected(const Stage &stage, std::size_t v, std::size_t k, Deviation &deviation) {
+    const Point &projected = stage.projected[v][k];
+    const auto [x, y, z] = real(stage.turned[v][k].position);
     const Homogeneous clip =
-        times(times({{x, y, z, 1}, {std::abs(x), std::abs(y), std::abs(z), 1}}, stage.camera), stage.projection);
+        times(times({{x, y, z, 1}, {std::abs(x), std::abs(y), std::abs(z), 1}}, stage.cameras[v]), stage.projection);
     const double w = clip.value[3], half = 0.5 * stage.rasterSize;
     const double origin[3] = {half, half, 0}, scale[3] = {half, -half, 1};
     for (int j = 0; j < 3; ++j) {
@@ -211,9 +248,9 @@ Step projectedVertices(Stage &stage) {
             [&stage] {
                 LxpStatus status = lxpStatusOk;
                 for (std::size_t v = 0; v < stage.views.size() && status == lxpStatusOk; ++v) {
-                    status = lxpmProject_m4v3a_32f(stage.projection.data(), stage.camera.data(), identity.data(), //
-                                                   stage.turned[v][0].position.data(), vertexStride,              //
-                                                   stage.rasterSize, stage.rasterSize, 0, 1,                      //
+                    status = lxpmProject_m4v3a_32f(stage.projection.data(), stage.cameras[v].data(), identity.data(), //
+                                                   stage.turned[v][0].position.data(), vertexStride,                  //
+                                                   stage.rasterSize, stage.rasterSize, 0, 1,                          //
                                                    stage.projected[v][0].data(), pointStride, countOf(stage.turned[v]));
                 }
                 return status;
@@ -224,7 +261,7 @@ Step projectedVertices(Stage &stage) {
                 Deviation deviation;
                 for (std::size_t v = 0; v < stage.views.size(); ++v) {
                     for (std::size_t k = 0; k < stage.turned[v].size(); ++k) {
-                        compareProjected(stage.projected[v][k], stage.turned[v][k].position, stage, deviation);
+                        compareProjected(stage, v, k, deviation);
                     }
                 }
                 return deviation;

@@ -9,7 +9,8 @@
 namespace lxpm::mesh {
 
 Step rotations(Stage &stage);
-Step camera(Stage &stage);
+Step cameras(Stage &stage);
+Step perspective(Stage &stage);
 Step turnedVertices(const Surface &surface, Stage &stage);
 Step projectedVertices(Stage &stage);
 
