@@ -17,7 +17,7 @@ presets=("$@")
 say() { echo "== $*" >&2; }
 
 require_packages binutils clang clang-format cmake g++ gcc libcglm-dev libclang-rt-dev libglm-dev libgtest-dev libomp-dev \
-    ninja-build pkg-config
+    libpng-dev ninja-build pkg-config
 
 say "Format"
 git ls-files '*.c' '*.h' '*.cpp' | xargs clang-format --dry-run --Werror

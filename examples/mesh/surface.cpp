@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The lxpm authors
 // SPDX-License-Identifier: MIT
 
-#include "scene.h"
+#include "surface.h"
 
 #include <algorithm>
 #include <utility>
@@ -25,15 +25,13 @@ std::vector<Edge> edgesOf(const std::vector<Triangle> &triangles) {
 
 } // namespace
 
-Scene::Scene(Mesh read) : mesh(std::move(read)), centre(), extent(0), centred(mesh.vertices) {
-    edges = edgesOf(mesh.triangles);
-    for (int j = 0; j < 3; ++j) {
-        const auto [lowest, highest] =
-            std::minmax_element(mesh.vertices.begin(), mesh.vertices.end(),
-                                [j](const Vertex &a, const Vertex &b) { return a.position[j] < b.position[j]; });
-        centre[j] = lowest->position[j] / 2 + highest->position[j] / 2;
-        extent = std::max(extent, highest->position[j] - lowest->position[j]);
-    }
+Surface::Surface(Mesh mesh)
+    : triangles(std::move(mesh.triangles)), edges(edgesOf(triangles)), asRead(std::move(mesh.vertices)),
+      vertices(asRead.size()), centred(asRead.size()), distances(asRead.size()), sides(triangles.size()),
+      areaNormals(triangles.size()), areas(triangles.size()), unitNormals(triangles.size()),
+      packedNormals(triangles.size()), crossMatrices(triangles.size()), areaGradients(triangles.size()),
+      normalSums(asRead.size()), areaSums(asRead.size()), gradientSums(asRead.size()), normalLengths(asRead.size()),
+      bendings(asRead.size()), meanCurvatures(asRead.size()) {
 }
 
 } // namespace lxpm::mesh

@@ -1,0 +1,44 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "curvature.h"
+#include "neighbourhoods.h"
+#include "placement.h"
+#include "sums_around_vertices.h"
+#include "triangles.h"
+#include "vertex_normals.h"
+
+namespace lxpm::mesh {
+
+// In the order in which they are made and run: each may use what the surface has from those before it. A further step
+// is a function, a line here, and the member of Surface that it fills.
+constexpr Step (*surfaceSteps[])(Surface &) = {
+    meanOfVertices,
+    centre,
+    distancesFromMean,
+    scaleToUnitSphere,
+
+    sidesOfTriangles,
+    normalsOfTriangles,
+    areasOfTriangles,
+    unitNormalsOfTriangles,
+    packNormals,
+
+    normalsAroundVertices,
+    lengthsOfNormalSums,
+    unitNormalsOfVertices,
+
+    crossMatrices,
+    areaGradients,
+    gradientsAroundVertices,
+    areasAroundVertices,
+    bendingAtVertices,
+    meanCurvatures,
+
+    outerSkin,
+    boxesAroundVertices,
+    edgeQuadrics,
+};
+
+} // namespace lxpm::mesh
