@@ -16,8 +16,6 @@ namespace lxpm {
 
 namespace general {
 
-inline constexpr int mostInLanes = 16; // of a larger order the registers would leave the first cache
-
 // What a solution needs beside the matrix: an orthogonal matrix if vectors are wanted, the eigenvalues as they are
 // found, and vectors for one thing after another.
 template <class V>
@@ -45,8 +43,8 @@ public:
         case 4:
             return kernel.template all<4>(FixedOrder<4>(), first, count);
         default:
-            if (shared.order <= general::mostInLanes) {
-                return kernel.template all<general::mostInLanes>(shared.order, first, count);
+            if (shared.order <= mostGeneralInLanes) {
+                return kernel.template all<mostGeneralInLanes>(shared.order, first, count);
             }
             return overEach(first, count, [&](int object) { return kernel.large(object); });
         }

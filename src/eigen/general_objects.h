@@ -31,7 +31,12 @@ struct GeneralProblem {
 template <class T>
 LxpStatus solveGeneral(const GeneralProblem<T> &problem, int first, int count, T *buffer);
 
-// Whether objects of this order are solved without the buffer.
-bool isSolvedOnStack(int order);
+// Matrices up to this order are solved one in each lane; of a larger one the registers would leave the first cache.
+inline constexpr int mostGeneralInLanes = 16;
+
+// Whether objects of an order are solved without the buffer.
+constexpr bool isSolvedOnStack(int order) {
+    return order <= mostGeneralInLanes;
+}
 
 } // namespace lxpm
