@@ -93,7 +93,7 @@ template <class Order, class V>
     // Zeros stay what they are, and so does what is not finite.
     const MaskOf<V> isSmall = isLess(largest, constant<V>(smallestScale<T>)) & isLess(constant<V>(0), largest);
     const MaskOf<V> isLarge = isLess(constant<V>(largestScale<T>), largest) &
-                         isLessEqual(largest, constant<V>(std::numeric_limits<T>::max()));
+                              isLessEqual(largest, constant<V>(std::numeric_limits<T>::max()));
     const MaskOf<V> isOut = isSmall | isLarge;
     if (none(isOut)) {
         return one;
@@ -240,11 +240,9 @@ template <int most, class Order, class V>
     for (; first > 0; --first) {
         V &element = h[first * order + first - 1];
         const V size = magnitude(element);
-        const V neighbours =
-            magnitude(h[(first - 1) * order + first - 1]) + magnitude(h[first * order + first]);
-        const auto isNegligible =
-            inBlock & (isLessEqual(size, constant<V>(roundoff<T>) * neighbours) |
-                       isLessEqual(size, constant<V>(safeMinimum<T>)));
+        const V neighbours = magnitude(h[(first - 1) * order + first - 1]) + magnitude(h[first * order + first]);
+        const auto isNegligible = inBlock & (isLessEqual(size, constant<V>(roundoff<T>) * neighbours) |
+                                             isLessEqual(size, constant<V>(safeMinimum<T>)));
         element = choose(isNegligible, constant<V>(0), element);
         inBlock = without(inBlock, isNegligible);
         if (none(inBlock)) {
@@ -618,22 +616,21 @@ private:
                 const V apart = re_[i] - p;
                 V vr = (apart * apart + im_[i] * im_[i]) - q * q;
                 const V vi = apart * (q + q);
-                const V around = (((magnitude(w) + magnitude(q)) + magnitude(a)) + magnitude(b)) + magnitude(lowerPivot);
+                const V around =
+                    (((magnitude(w) + magnitude(q)) + magnitude(a)) + magnitude(b)) + magnitude(lowerPivot);
                 const MaskOf<V> isSmall = isLess(magnitude(vr) + magnitude(vi), smallest_ * around);
                 vr = choose(isSmall, smallest_ * around, vr);
-                const Complex<V> first = quotient<V>(
-                    isFirst,
-                    {((a * lowerSum.re) - lowerPivot * sum.re) + q * sum.im,
-                     ((a * lowerSum.im) - lowerPivot * sum.im) - q * sum.re},
-                    {vr, vi});
+                const Complex<V> first = quotient<V>(isFirst,
+                                                     {((a * lowerSum.re) - lowerPivot * sum.re) + q * sum.im,
+                                                      ((a * lowerSum.im) - lowerPivot * sum.im) - q * sum.re},
+                                                     {vr, vi});
                 const Mask isByA = isLess(magnitude(lowerPivot) + magnitude(q), magnitude(a));
                 const V overA = one / divisorWhere(isFirst & isByA, a);
                 const Complex<V> byA = {((negated(sum.re) - w * first.re) + q * first.im) * overA,
                                         ((negated(sum.im) - w * first.im) - q * first.re) * overA};
-                const Complex<V> byPivot =
-                    quotient<V>(without(isFirst, isByA),
-                             {negated(lowerSum.re) - b * first.re, negated(lowerSum.im) - b * first.im},
-                             {lowerPivot, q});
+                const Complex<V> byPivot = quotient<V>(
+                    without(isFirst, isByA), {negated(lowerSum.re) - b * first.re, negated(lowerSum.im) - b * first.im},
+                    {lowerPivot, q});
                 x = {choose(isFirst, first.re, x.re), choose(isFirst, first.im, x.im)};
                 const Complex<V> second = {choose(isByA, byA.re, byPivot.re), choose(isByA, byA.im, byPivot.im)};
                 xRe_[i + 1] = choose(isFirst, second.re, xRe_[i + 1]);

@@ -34,12 +34,24 @@ template <class V>
 inline constexpr bool isSingle = NumberOf<V>::lanes == 1;
 
 #define LXPM_ON_ELEMENTS(T)                                                                                            \
-    inline bool isLess(T a, T b) { return a < b; }                                                                     \
-    inline bool isLessEqual(T a, T b) { return a <= b; }                                                               \
-    inline bool isEqual(T a, T b) { return a == b; }                                                                   \
-    inline T magnitude(T x) { return std::fabs(x); }                                                                   \
-    inline T negated(T x) { return -x; }                                                                               \
-    inline T choose(bool mask, T a, T b) { return mask ? a : b; }
+    inline bool isLess(T a, T b) {                                                                                     \
+        return a < b;                                                                                                  \
+    }                                                                                                                  \
+    inline bool isLessEqual(T a, T b) {                                                                                \
+        return a <= b;                                                                                                 \
+    }                                                                                                                  \
+    inline bool isEqual(T a, T b) {                                                                                    \
+        return a == b;                                                                                                 \
+    }                                                                                                                  \
+    inline T magnitude(T x) {                                                                                          \
+        return std::fabs(x);                                                                                           \
+    }                                                                                                                  \
+    inline T negated(T x) {                                                                                            \
+        return -x;                                                                                                     \
+    }                                                                                                                  \
+    inline T choose(bool mask, T a, T b) {                                                                             \
+        return mask ? a : b;                                                                                           \
+    }
 LXPM_ON_ELEMENTS(float)
 LXPM_ON_ELEMENTS(double)
 #undef LXPM_ON_ELEMENTS
@@ -76,19 +88,39 @@ using Mask64 = MaskOf<Lanes64>;
 
 // Comparisons are false with NaN.
 #define LXPM_ON_LANES(Number, Mask, ps)                                                                                \
-    inline Mask isLess(Number a, Number b) { return {_mm256_cmp_##ps(a.vector, b.vector, _CMP_LT_OQ)}; }               \
-    inline Mask isLessEqual(Number a, Number b) { return {_mm256_cmp_##ps(a.vector, b.vector, _CMP_LE_OQ)}; }          \
-    inline Mask isEqual(Number a, Number b) { return {_mm256_cmp_##ps(a.vector, b.vector, _CMP_EQ_OQ)}; }              \
+    inline Mask isLess(Number a, Number b) {                                                                           \
+        return {_mm256_cmp_##ps(a.vector, b.vector, _CMP_LT_OQ)};                                                      \
+    }                                                                                                                  \
+    inline Mask isLessEqual(Number a, Number b) {                                                                      \
+        return {_mm256_cmp_##ps(a.vector, b.vector, _CMP_LE_OQ)};                                                      \
+    }                                                                                                                  \
+    inline Mask isEqual(Number a, Number b) {                                                                          \
+        return {_mm256_cmp_##ps(a.vector, b.vector, _CMP_EQ_OQ)};                                                      \
+    }                                                                                                                  \
     inline Number magnitude(Number x) {                                                                                \
         return {_mm256_andnot_##ps(Number::splat(-0.0).vector, x.vector)};                                             \
     }                                                                                                                  \
-    inline Number negated(Number x) { return {_mm256_xor_##ps(Number::splat(-0.0).vector, x.vector)}; }                \
-    inline bool any(Mask mask) { return _mm256_movemask_##ps(mask.bits) != 0; }                                        \
-    inline bool all(Mask mask) { return _mm256_movemask_##ps(mask.bits) == (1 << NumberOf<Number>::lanes) - 1; }       \
-    inline unsigned lanesOf(Mask mask) { return static_cast<unsigned>(_mm256_movemask_##ps(mask.bits)); }              \
-    inline Mask without(Mask mask, Mask others) { return {_mm256_andnot_##ps(others.bits, mask.bits)}; }               \
-    inline Mask operator&(Mask a, Mask b) { return {_mm256_and_##ps(a.bits, b.bits)}; }                                \
-    inline Mask operator|(Mask a, Mask b) { return {_mm256_or_##ps(a.bits, b.bits)}; }
+    inline Number negated(Number x) {                                                                                  \
+        return {_mm256_xor_##ps(Number::splat(-0.0).vector, x.vector)};                                                \
+    }                                                                                                                  \
+    inline bool any(Mask mask) {                                                                                       \
+        return _mm256_movemask_##ps(mask.bits) != 0;                                                                   \
+    }                                                                                                                  \
+    inline bool all(Mask mask) {                                                                                       \
+        return _mm256_movemask_##ps(mask.bits) == (1 << NumberOf<Number>::lanes) - 1;                                  \
+    }                                                                                                                  \
+    inline unsigned lanesOf(Mask mask) {                                                                               \
+        return static_cast<unsigned>(_mm256_movemask_##ps(mask.bits));                                                 \
+    }                                                                                                                  \
+    inline Mask without(Mask mask, Mask others) {                                                                      \
+        return {_mm256_andnot_##ps(others.bits, mask.bits)};                                                           \
+    }                                                                                                                  \
+    inline Mask operator&(Mask a, Mask b) {                                                                            \
+        return {_mm256_and_##ps(a.bits, b.bits)};                                                                      \
+    }                                                                                                                  \
+    inline Mask operator|(Mask a, Mask b) {                                                                            \
+        return {_mm256_or_##ps(a.bits, b.bits)};                                                                       \
+    }
 LXPM_ON_LANES(Lanes32, Mask32, ps)
 LXPM_ON_LANES(Lanes64, Mask64, pd)
 #undef LXPM_ON_LANES

@@ -4,8 +4,8 @@
 
 // The kernels of symmetric eigenproblems. For the sources that instantiate them, one for each type.
 
-#include "eigen/orders.h"
 #include "eigen/lane_memory.h"
+#include "eigen/orders.h"
 #include "eigen/symmetric.h"
 #include "eigen/symmetric_objects.h"
 

@@ -48,7 +48,7 @@ constexpr Block blockOf(int thread, int quotient, int remainder) {
     int quotient = 0;
     int remainder = 0;
     LxpStatus result = lxpStatusOk;
-#pragma omp parallel num_threads(team) default(none)                                     \
+#pragma omp parallel num_threads(team) default(none)                                                                   \
     shared(quotient, remainder, result, count, scratch, scratchBytes, kernel, call, state)
     {
 #pragma omp master
