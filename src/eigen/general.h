@@ -496,8 +496,8 @@ public:
     [[gnu::always_inline]] void run(const Store &store) {
         const V zero = constant<V>(0);
         for (int column = order_ - 1; column >= 0; --column) {
-            const Mask isReal = isEqual(im_[column], zero);
             const Mask isSecond = isLess(im_[column], zero);
+            const Mask isReal = without(everywhere<V>(true), isSecond | isLess(zero, im_[column]));
             if (any(isReal)) {
                 solveReal(isReal, column);
                 transformBack<false>(isReal, column);
@@ -670,7 +670,8 @@ private:
         for (int i = 0; i < order_; ++i) {
             outRe_[i] = outRe_[i] * factor;
             if constexpr (isComplex) {
-                outIm_[i] = outIm_[i] * (isLeft ? negated(factor) : factor);
+                const V im = outIm_[i] * factor;
+                outIm_[i] = isLeft ? negated(im) : im;
             }
         }
     }
