@@ -336,14 +336,14 @@ template <bool wantsVectors, int most, class Order, class V>
             const V b = below * (((corner + row1[k + 1]) - x) - y);
             const V c = below * row2[k + 1];
             const V size = (magnitude(a) + magnitude(b)) + magnitude(c);
-            const MaskOf<V> isUsable = starts & isLess(tiniest, size);
+            const MaskOf<V> isUsable = without(starts, isLessEqual(size, tiniest));
             const V factor = one / divisorWhere(isUsable, size);
             p = choose(starts, choose(isUsable, a * factor, one), p);
             q = choose(starts, choose(isUsable, b * factor, zero), q);
             r = choose(starts, choose(isUsable, c * factor, zero), r);
         }
         const V squares = (p * p + q * q) + r * r;
-        const MaskOf<V> reflects = active & isLess(tiniest, squares);
+        const MaskOf<V> reflects = without(active, isLessEqual(squares, tiniest)); // with NaN too
         const V norm = root(squares);
         const V s = choose(isLess(p, zero), negated(norm), norm);
         if (k > first && any(isInside)) {

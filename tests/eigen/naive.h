@@ -480,7 +480,7 @@ private:
                 q = below * (((h(k, k) + h(k + 1, k + 1)) - x) - y);
                 r = below * h(k + 2, k + 1);
                 const T size = (std::fabs(p) + std::fabs(q)) + std::fabs(r);
-                const bool isUsable = size > L::lostSquares;
+                const bool isUsable = !(size <= L::lostSquares);
                 p = isUsable ? p * (1 / size) : T(1);
                 q = isUsable ? q * (1 / size) : T(0);
                 r = isUsable ? r * (1 / size) : T(0);
@@ -490,7 +490,7 @@ private:
                 r = rows == 3 ? h(k + 2, k - 1) : T(0);
             }
             const T squares = (p * p + q * q) + r * r;
-            const bool reflects = squares > L::lostSquares;
+            const bool reflects = !(squares <= L::lostSquares);
             const T s = p < 0 ? -std::sqrt(squares) : std::sqrt(squares);
             if (k > first) {
                 h(k, k - 1) = reflects ? -s : T(0);
