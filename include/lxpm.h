@@ -32,6 +32,7 @@
  * so any number of threads may call them at once as long as their destinations do not overlap.
  */
 
+#include <lxpm/eigen.h>
 #include <lxpm/elementwise.h>
 #include <lxpm/graphics.h>
 #include <lxpm/products.h>

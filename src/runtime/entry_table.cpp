@@ -4,6 +4,8 @@
 // The roof of the library: the table of code addresses through which the entry stubs jump, one slot for each export. It
 // is writable, so that an implementation can be exchanged as a whole, but nothing here writes it.
 
+#include "eigen/eigen_values.h"
+#include "eigen/eigen_values_sym.h"
 #include "elementwise/add_sub.h"
 #include "elementwise/copy.h"
 #include "elementwise/extract.h"

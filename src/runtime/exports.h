@@ -65,6 +65,12 @@ SMALL_VECTORS(CrossProduct)
 EXPORT(lxpmTranspose_m4_32f)
 EXPORT(lxpmDet_m4_32f)
 EXPORT(lxpmInvert_m4_32f)
+#include "eigen/eigen_values_sym.list.h"
+#include "eigen/eigen_values.list.h"
+EXPORT(lxpmEigenValuesGetBufSize_32f)
+EXPORT(lxpmEigenValuesGetBufSize_64f)
+EXPORT(lxpmEigenValuesVectorsGetBufSize_32f)
+EXPORT(lxpmEigenValuesVectorsGetBufSize_64f)
 #include "graphics/graphics.list.h"
 #include "elementwise/copy.list.h"
 #include "elementwise/extract.list.h"

@@ -15,14 +15,19 @@ namespace lxpm::test {
 
 namespace {
 
-/// The destination of one call, element by element in logical order. The formula plays no part.
+/// The destinations of one call, element by element in logical order. The formula plays no part.
 std::vector<std::uint64_t> resultsOf(Call &call) {
     std::vector<std::uint64_t> results;
-    PlacedOperand &to = call.destination();
-    for (int object = 0; object < to.objects(); ++object) {
-        for (int row = 0; row < to.rows(); ++row) {
-            for (int column = 0; column < to.columns(); ++column) {
-                results.push_back(to.bits(object, row, column));
+    for (int index = 0; index < call.operandCount(); ++index) {
+        PlacedOperand &to = call.operand(index);
+        if (!to.model().isWritten || to.model().kind == Kind::Scratch) {
+            continue;
+        }
+        for (int object = 0; object < to.objects(); ++object) {
+            for (int row = 0; row < to.rows(); ++row) {
+                for (int column = 0; column < to.columns(); ++column) {
+                    results.push_back(to.bits(object, row, column));
+                }
             }
         }
     }

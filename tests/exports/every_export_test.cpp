@@ -155,9 +155,15 @@ TEST(Coverage, TheListHasAllExports) {
                                                    {"Extract", 30},
                                                    {"LoadIdentity", 6},
                                                    {"Saxpy", 22},
-                                                   {"LComb", 16}}));
-    // Without a family: lxpmGetLibVersion.
-    EXPECT_EQ(exportNames().size(), familyExports().size() + graphicsExports().size() + 1);
+                                                   {"LComb", 16},
+                                                   {"EigenValuesSym", 10},
+                                                   {"EigenValuesVectorsSym", 10},
+                                                   {"EigenValues", 10},
+                                                   {"EigenValuesVectors", 10},
+                                                   {"EigenValuesVectorsRight", 10},
+                                                   {"EigenValuesVectorsLeft", 10}}));
+    // Without a family: lxpmGetLibVersion, and the four sizes of scratch memory for general eigenproblems.
+    EXPECT_EQ(exportNames().size(), familyExports().size() + graphicsExports().size() + 1 + 4);
 }
 
 TEST(Coverage, EverySuiteRunsEveryExport) {

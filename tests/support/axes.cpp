@@ -98,6 +98,13 @@ const SizeAxes orders = {
     .special = {{1}, {3}, {4}, {5}, {6}, {7}},
 };
 
+const SizeAxes eigenOrders = {
+    .all = join({lengths(1, 10), {{15}, {16}, {17}, {33}, {66}}}),
+    .small = lengths(1, 7),
+    .tight = join({lengths(1, 9), {{17}}}),
+    .special = {{1}, {2}, {3}, {4}, {5}, {6}, {9}},
+};
+
 const SizeAxes noSizes = {.all = {{}}, .small = {{}}, .tight = {{}}, .special = {{}}};
 
 const SizeAxes productSizes = {

@@ -24,6 +24,9 @@ extern const SizeAxes summedMatrixSizes;
 /// Shape {widthHeight}.
 extern const SizeAxes orders;
 
+/// Shape {widthHeight} of eigenproblems: those in registers, and those that go through scratch memory.
+extern const SizeAxes eigenOrders;
+
 /// The empty shape, of functions whose operands have one size only.
 extern const SizeAxes noSizes;
 /// Shape {rows, inner, columns} of a product of matrices.

@@ -4,6 +4,7 @@
 #include "support/call.h"
 
 #include "support/elements.h"
+#include "support/thread_count.h"
 
 #include <algorithm>
 #include <atomic>
@@ -103,9 +104,21 @@ Call::Call(const Export &item, Shape shape, int count, const std::vector<Placeme
     const Model &model = export_.model;
     operands_.reserve(model.operands.size());
     for (std::size_t index = 0; index < model.operands.size(); ++index) {
-        operands_.emplace_back(model.operands[index], model.layout, model.type, shape_, objects_,
+        operands_.emplace_back(sized(model.operands[index]), model.layout, model.type, shape_, objects_,
                                placements[std::min(index, placements.size() - 1)]);
     }
+}
+
+/// Scratch is as large as the contract says, for the team that the call gets, and not larger.
+Operand Call::sized(const Operand &operand) const {
+    Operand result = operand;
+    if (operand.kind == Kind::Scratch) {
+        const bool isParallel = export_.model.parallel && export_.model.parallel->isParallel(shape_, count_, true);
+        const int teams = operand.hasScratchPerThread && isParallel ? teamFor(count_) : 1;
+        result.rows = Operand::one;
+        result.columns = -operand.scratchElements(shape_) * teams;
+    }
+    return result;
 }
 
 Call::~Call() {
@@ -140,17 +153,24 @@ void Call::fill(const Fill &fill) {
 
 void Call::makeArguments() {
     arguments_.clear();
-    for (int index = 0; index < static_cast<int>(operands_.size()); ++index) {
-        operands_[index].appendArguments(arguments_);
-        for (const SizeParameter &size : export_.model.sizes) {
-            if (size.operand == index) {
-                arguments_.emplace_back(shape_[size.size]);
+    const auto append = [&](bool last) {
+        for (int index = 0; index < static_cast<int>(operands_.size()); ++index) {
+            if (operands_[index].model().standsLast != last) {
+                continue;
+            }
+            operands_[index].appendArguments(arguments_);
+            for (const SizeParameter &size : export_.model.sizes) {
+                if (size.operand == index) {
+                    arguments_.emplace_back(shape_[size.size]);
+                }
             }
         }
-    }
+    };
+    append(false);
     if (export_.model.hasCount) {
         arguments_.emplace_back(count_);
     }
+    append(true);
 }
 
 std::vector<Arena *> Call::arenas() const {
@@ -169,18 +189,28 @@ void Call::expectUnchanged() {
     for (Arena *arena : arenas()) {
         arena->expectUnchanged();
     }
-    destination().forgetAnyNan();
+    for (PlacedOperand &operand : operands_) {
+        operand.forgetExceptions();
+    }
 }
 
 template <class T>
-void Call::applyFormula(const std::function<void(std::span<const Elements<T>>)> &formula) {
+void Call::applyFormula(const std::function<LxpStatus(std::span<const Elements<T>>)> &formula) {
+    failures_.clear();
+    for (PlacedOperand &operand : operands_) {
+        for (int column = 0; operand.model().kind == Kind::Scratch && column < operand.columns(); ++column) {
+            operand.expectAnything(0, 0, column);
+        }
+    }
     std::vector<Elements<T>> elements;
     for (int object = 0; object < objects_; ++object) {
         elements.clear();
         for (PlacedOperand &operand : operands_) {
             elements.emplace_back(operand, object);
         }
-        formula(elements);
+        if (const LxpStatus status = formula(elements); status != lxpStatusOk) {
+            failures_.push_back(status);
+        }
     }
 }
 
@@ -200,11 +230,15 @@ LxpStatus Call::invoke() {
     return status_;
 }
 
-void Call::acceptAnyNan() {
+void Call::acceptExceptions() {
     const ElementType type = export_.model.type;
-    PlacedOperand &to = destination();
-    for (std::byte *address : to.anyNan()) {
-        if (isNan(type, address)) {
+    for (PlacedOperand &to : operands_) {
+        for (std::byte *address : to.anyNan()) {
+            if (isNan(type, address)) {
+                std::memcpy(to.memory()->expected(address), address, sizeOf(type));
+            }
+        }
+        for (std::byte *address : to.anything()) {
             std::memcpy(to.memory()->expected(address), address, sizeOf(type));
         }
     }
@@ -215,7 +249,18 @@ void Call::verify(LxpStatus expected, Report &report) {
         complain("returned " + std::to_string(status_) + ", expected " + std::to_string(expected), report);
         return;
     }
-    acceptAnyNan();
+    verifyMemory(report);
+}
+
+void Call::verify(Report &report) {
+    // Of several threads any may have been the first one to record a failure.
+    const bool isOneOfThem = isParallel() && teamFor(count_) > 1 &&
+                             std::find(failures_.begin(), failures_.end(), status_) != failures_.end();
+    verify(isOneOfThem ? status_ : failures_.empty() ? lxpStatusOk : failures_.front(), report);
+}
+
+void Call::verifyMemory(Report &report) {
+    acceptExceptions();
     for (Arena *arena : arenas()) {
         if (!arena->isAsExpected()) {
             complain(describeDifference(*arena, arena->findDifference(arena->begin())), report);
@@ -227,7 +272,7 @@ void Call::verifyResults(Report &report) {
     report.countCase();
     expectResults();
     invoke();
-    verify(lxpStatusOk, report);
+    verify(report);
 }
 
 void Call::complain(const std::string &what, Report &report) {

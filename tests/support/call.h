@@ -53,7 +53,10 @@ public:
     /// Complains unless the last call returned `expected` and all memory is as expected.
     void verify(LxpStatus expected, Report &report);
 
-    /// Calls and verifies, a successful call that follows the formula.
+    /// Complains unless the last call returned a status that the formula gave, and all memory is as expected.
+    void verify(Report &report);
+
+    /// Calls and verifies a call that passes the checks and follows the formula.
     void verifyResults(Report &report);
 
     /// A complaint about this call.
@@ -61,7 +64,7 @@ public:
 
     std::vector<Argument> &arguments() { return arguments_; }
     PlacedOperand &operand(int index) { return operands_[index]; }
-    PlacedOperand &destination() { return operands_.back(); }
+    int operandCount() const { return static_cast<int>(operands_.size()); }
     int objects() const { return objects_; }
 
     /// Every element stride of the call is the element size.
@@ -81,8 +84,10 @@ public:
 
 private:
     template <class T>
-    void applyFormula(const std::function<void(std::span<const Elements<T>>)> &formula);
-    void acceptAnyNan();
+    void applyFormula(const std::function<LxpStatus(std::span<const Elements<T>>)> &formula);
+    void acceptExceptions();
+    void verifyMemory(Report &report);
+    Operand sized(const Operand &operand) const;
     void makeArguments();
     std::vector<Arena *> arenas() const;
     std::string describeDifference(Arena &arena, const std::byte *at);
@@ -94,6 +99,7 @@ private:
     std::vector<PlacedOperand> operands_;
     std::vector<Argument> arguments_;
     LxpStatus status_ = lxpStatusOk;
+    std::vector<LxpStatus> failures_; // of objects, in their order, as the formula has them
 };
 
 /// The call that was started last, for the report of a crash; null before the first.

@@ -35,6 +35,9 @@ public:
         std::memcpy(operand_->expectedElement(object_, row, column), &value, sizeof value);
     }
 
+    /// Anything will do.
+    void expectAnything(int row, int column) const { operand_->expectAnything(object_, row, column); }
+
     /// Any NaN will do: which of two payloads survives an addition is left to the processor.
     void expectNan(int row, int column) const { operand_->expectAnyNan(object_, row, column); }
 

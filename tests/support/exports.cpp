@@ -3,6 +3,7 @@
 
 #include "support/exports.h"
 
+#include "eigen/eigen_values.h"
 #include "elementwise/add_sub.h"
 #include "elementwise/moving.h"
 #include "elementwise/saxpy_lcomb.h"
@@ -43,6 +44,12 @@ constexpr Family families[] = {
     {"LComb", describeSaxpyLComb},
     {"Mul", describeMul},
     {"Gaxpy", describeGaxpy},
+    {"EigenValuesSym", describeEigenValuesSym},
+    {"EigenValuesVectorsSym", describeEigenValuesSym},
+    {"EigenValues", describeEigenValues},
+    {"EigenValuesVectors", describeEigenValues},
+    {"EigenValuesVectorsRight", describeEigenValues},
+    {"EigenValuesVectorsLeft", describeEigenValues},
 };
 
 Model describe(const ExportName &name) {

@@ -8,7 +8,7 @@
 namespace lxpm::test {
 
 Form formOf(const Operand &operand, Layout layout) {
-    if (operand.kind == Kind::Results) {
+    if (operand.kind == Kind::Results || operand.kind == Kind::Scratch) {
         return Form::Dense;
     }
     if (operand.kind == Kind::Constant && !operand.isArray) {
@@ -38,7 +38,8 @@ bool hasRowStride(const Operand &operand, Form form) {
 }
 
 bool hasElementStride(const Operand &operand, Form form) {
-    const bool isScalar = operand.kind == Kind::Constant || operand.kind == Kind::Results;
+    const bool isScalar =
+        operand.kind == Kind::Constant || operand.kind == Kind::Results || operand.kind == Kind::Scratch;
     return !isScalar && (form == Form::Strided || form == Form::ObjectPointers);
 }
 
@@ -105,7 +106,8 @@ std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, Eleme
         break;
     case Form::Dense:
     case Form::Strided:
-        parameters.push_back({pointee + " *", operand.role, ParameterKind::Pointer});
+        parameters.push_back(
+            {pointee + " *", operand.pointer.empty() ? operand.role : operand.pointer, ParameterKind::Pointer});
         break;
     case Form::ObjectPointers:
     case Form::ElementPointers:
@@ -128,19 +130,26 @@ std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, Eleme
 
 std::vector<Parameter> parametersOf(const Model &model) {
     std::vector<Parameter> parameters;
-    for (int index = 0; index < static_cast<int>(model.operands.size()); ++index) {
-        for (Parameter &parameter : parametersOf(model.operands[index], model.layout, model.type)) {
-            parameters.push_back(std::move(parameter));
-        }
-        for (const SizeParameter &size : model.sizes) {
-            if (size.operand == index) {
-                parameters.push_back({"int", size.name, ParameterKind::Size, size.size});
+    const auto append = [&](bool last) {
+        for (int index = 0; index < static_cast<int>(model.operands.size()); ++index) {
+            if (model.operands[index].standsLast != last) {
+                continue;
+            }
+            for (Parameter &parameter : parametersOf(model.operands[index], model.layout, model.type)) {
+                parameters.push_back(std::move(parameter));
+            }
+            for (const SizeParameter &size : model.sizes) {
+                if (size.operand == index) {
+                    parameters.push_back({"int", size.name, ParameterKind::Size, size.size});
+                }
             }
         }
-    }
+    };
+    append(false);
     if (model.hasCount) {
         parameters.push_back({"int", "count", ParameterKind::Count});
     }
+    append(true);
     return parameters;
 }
 

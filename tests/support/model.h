@@ -14,6 +14,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace lxpm::test {
@@ -32,8 +33,9 @@ constexpr int sizeOf(ElementType type) {
 /// several.
 using Shape = std::vector<int>;
 
-/// Results: one scalar for each object, one behind the other in every layout, which no stride describes.
-enum class Kind { Matrix, Transposed, Vector, Constant, Results };
+/// Results: one scalar for each object, one behind the other in every layout, which no stride describes. Scratch:
+/// memory that a call may leave in any state.
+enum class Kind { Matrix, Transposed, Vector, Constant, Results, Scratch };
 
 /// An operand of an export, whatever the layout. `rows` and `columns` are those of the logical object, given as
 /// positions in the export's shapes, or as negative numbers where they are always the same.
@@ -50,6 +52,10 @@ struct Operand {
     std::optional<Layout> ownLayout = {}; // where the operands of an export differ in layout
     bool isDense = false;                 // plain dense memory, described by its first element's address alone
     bool isObjStrideLate = false;         // checked apart from the other strides, and only where count > 1
+    std::string pointer = {};             // the name of the pointer where it is not the role
+    bool standsLast = false;              // in the argument list, behind the count
+    std::function<int(const Shape &shape)> scratchElements = {};
+    bool hasScratchPerThread = false;
 
     int rowsOf(const Shape &shape) const { return rows < 0 ? -rows : shape[rows]; }
     int columnsOf(const Shape &shape) const { return columns < 0 ? -columns : shape[columns]; }
@@ -94,15 +100,25 @@ struct ParallelRule {
     }
 };
 
-/// What a call should leave in the destination, one object at a time; operands in the order of the argument list.
+/// What a call should leave in the destinations, one object at a time, and the status of this object; operands in the
+/// order in which the model has them.
 struct Formula {
-    std::function<void(std::span<const Elements<float>> operands)> in32f;
-    std::function<void(std::span<const Elements<double>> operands)> in64f;
+    std::function<LxpStatus(std::span<const Elements<float>> operands)> in32f;
+    std::function<LxpStatus(std::span<const Elements<double>> operands)> in64f;
 };
 
+/// Of a function that returns a status, or nothing where no object can fail.
 template <class Function>
 Formula formula(Function function) {
-    return {function, function};
+    const auto withStatus = [function](auto operands) -> LxpStatus {
+        if constexpr (std::is_void_v<decltype(function(operands))>) {
+            function(operands);
+            return lxpStatusOk;
+        } else {
+            return function(operands);
+        }
+    };
+    return {withStatus, withStatus};
 }
 
 /// The values that the size parameters take in tests.
@@ -129,7 +145,7 @@ struct ExportName {
 };
 
 struct Model : ExportName {
-    std::vector<Operand> operands; // in the order of the argument list, the destination last
+    std::vector<Operand> operands; // in the order of the argument list, the destination last; then what stands last
     std::vector<SizeParameter> sizes;
     bool hasCount;
     std::vector<Check> order;
@@ -146,6 +162,9 @@ struct Model : ExportName {
 
     /// Whether whole numbers as operands give exact results: not where they are squared and summed, or a root is taken.
     bool isExactForWholeNumbers = true;
+
+    /// Whether results round through numbers so small that they lose bits.
+    bool mayUnderflow = false;
 
     /// Whether a sum goes in another order where the elements of a shape's rows touch. None: there is one order.
     std::function<bool(const Shape &shape)> splitsContiguousSums = {};
