@@ -66,6 +66,11 @@ EXPORT(lxpmTranspose_m4_32f)
 EXPORT(lxpmDet_m4_32f)
 EXPORT(lxpmInvert_m4_32f)
 #include "graphics/graphics.list.h"
+#include "solvers/lu.list.h"
+#include "solvers/cholesky.list.h"
+#include "solvers/qr.list.h"
+#include "solvers/det.list.h"
+#include "solvers/invert.list.h"
 #include "elementwise/copy.list.h"
 #include "elementwise/extract.list.h"
 #include "elementwise/load_identity.list.h"

@@ -155,7 +155,15 @@ TEST(Coverage, TheListHasAllExports) {
                                                    {"Extract", 30},
                                                    {"LoadIdentity", 6},
                                                    {"Saxpy", 22},
-                                                   {"LComb", 16}}));
+                                                   {"LComb", 16},
+                                                   {"LUDecomp", 10},
+                                                   {"LUBackSubst", 16},
+                                                   {"CholeskyDecomp", 10},
+                                                   {"CholeskyBackSubst", 16},
+                                                   {"QRDecomp", 10},
+                                                   {"QRBackSubst", 16},
+                                                   {"Det", 10},
+                                                   {"Invert", 10}}));
     // Without a family: lxpmGetLibVersion.
     EXPECT_EQ(exportNames().size(), familyExports().size() + graphicsExports().size() + 1);
 }

@@ -24,6 +24,9 @@ extern const SizeAxes summedMatrixSizes;
 /// Shape {widthHeight}.
 extern const SizeAxes orders;
 
+/// Shape {height, width} of matrices that are square or tall.
+extern const SizeAxes tallSizes;
+
 /// The empty shape, of functions whose operands have one size only.
 extern const SizeAxes noSizes;
 /// Shape {rows, inner, columns} of a product of matrices.

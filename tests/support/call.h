@@ -40,7 +40,9 @@ public:
     /// Source `later` becomes the memory of source `earlier`, before `fill`.
     void readTwice(int earlier, int later);
 
-    void fill(const Fill &fill);
+    /// As good operands, or as they are.
+    enum class Values { Adjusted, AsTheyAre };
+    void fill(const Fill &fill, Values values = Values::Adjusted);
 
     /// What the formula says, from the operands as they are now.
     void expectResults();
@@ -53,7 +55,10 @@ public:
     /// Complains unless the last call returned `expected` and all memory is as expected.
     void verify(LxpStatus expected, Report &report);
 
-    /// Calls and verifies, a successful call that follows the formula.
+    /// The status that the formula says.
+    LxpStatus expectedStatus() const { return expectedStatus_; }
+
+    /// Calls and verifies, a call that follows the formula.
     void verifyResults(Report &report);
 
     /// A complaint about this call.
@@ -81,8 +86,9 @@ public:
 
 private:
     template <class T>
-    void applyFormula(const std::function<void(std::span<const Elements<T>>)> &formula);
+    void applyFormula(const std::function<LxpStatus(std::span<const Elements<T>>)> &formula);
     void acceptAnyNan();
+    void acceptScratch();
     void makeArguments();
     std::vector<Arena *> arenas() const;
     std::string describeDifference(Arena &arena, const std::byte *at);
@@ -94,6 +100,7 @@ private:
     std::vector<PlacedOperand> operands_;
     std::vector<Argument> arguments_;
     LxpStatus status_ = lxpStatusOk;
+    LxpStatus expectedStatus_ = lxpStatusOk;
 };
 
 /// The call that was started last, for the report of a crash; null before the first.

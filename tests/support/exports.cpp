@@ -9,6 +9,7 @@
 #include "products/gaxpy.h"
 #include "products/mul.h"
 #include "products/reductions.h"
+#include "solvers/solvers.h"
 
 #include <lxpm.h>
 
@@ -43,6 +44,14 @@ constexpr Family families[] = {
     {"LComb", describeSaxpyLComb},
     {"Mul", describeMul},
     {"Gaxpy", describeGaxpy},
+    {"LUDecomp", describeLUDecomp},
+    {"LUBackSubst", describeLUBackSubst},
+    {"CholeskyDecomp", describeCholeskyDecomp},
+    {"CholeskyBackSubst", describeCholeskyBackSubst},
+    {"QRDecomp", describeQRDecomp},
+    {"QRBackSubst", describeQRBackSubst},
+    {"Det", describeDet},
+    {"Invert", describeInvert},
 };
 
 Model describe(const ExportName &name) {

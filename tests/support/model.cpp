@@ -7,8 +7,12 @@
 
 namespace lxpm::test {
 
+int permuted(int object, int index, int order) {
+    return static_cast<int>((static_cast<long>(order - 1) * index + object) % order);
+}
+
 Form formOf(const Operand &operand, Layout layout) {
-    if (operand.kind == Kind::Results) {
+    if (operand.kind == Kind::Results || operand.kind == Kind::Indices || operand.kind == Kind::Scratch) {
         return Form::Dense;
     }
     if (operand.kind == Kind::Constant && !operand.isArray) {
@@ -94,7 +98,8 @@ bool Model::mustAgree(int size) const {
 }
 
 std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, ElementType type) {
-    const std::string element = type == ElementType::Float32 ? "float" : "double";
+    const std::string number = type == ElementType::Float32 ? "float" : "double";
+    const std::string element = operand.kind == Kind::Indices ? "int" : number;
     const std::string pointee = (operand.isWritten ? "" : "const ") + element;
     const Form form = formOf(operand, layout);
 

@@ -10,10 +10,13 @@
 
 #include <lxp/status.h>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace lxpm::test {
@@ -32,8 +35,10 @@ constexpr int sizeOf(ElementType type) {
 /// several.
 using Shape = std::vector<int>;
 
-/// Results: one scalar for each object, one behind the other in every layout, which no stride describes.
-enum class Kind { Matrix, Transposed, Vector, Constant, Results };
+/// Results: one scalar for each object, one behind the other in every layout, which no stride describes. Indices: whole
+/// numbers, in such memory too; as a source, a permutation for each object. Scratch: elements in such memory, which a
+/// call may leave in any state.
+enum class Kind { Matrix, Transposed, Vector, Constant, Results, Indices, Scratch };
 
 /// An operand of an export, whatever the layout. `rows` and `columns` are those of the logical object, given as
 /// positions in the export's shapes, or as negative numbers where they are always the same.
@@ -94,16 +99,37 @@ struct ParallelRule {
     }
 };
 
-/// What a call should leave in the destination, one object at a time; operands in the order of the argument list.
+/// What a call should leave in the destination, one object at a time; operands in the order of the argument list. An
+/// object that fails ends the call with its status.
 struct Formula {
-    std::function<void(std::span<const Elements<float>> operands)> in32f;
-    std::function<void(std::span<const Elements<double>> operands)> in64f;
+    std::function<LxpStatus(std::span<const Elements<float>> operands)> in32f;
+    std::function<LxpStatus(std::span<const Elements<double>> operands)> in64f;
 };
 
 template <class Function>
 Formula formula(Function function) {
-    return {function, function};
+    const auto withStatus = [function](auto operands) -> LxpStatus {
+        if constexpr (std::is_void_v<decltype(function(operands))>) {
+            function(operands);
+            return lxpStatusOk;
+        } else {
+            return function(operands);
+        }
+    };
+    return {withStatus, withStatus};
 }
+
+/// Where an element of an operand stands.
+struct Place {
+    int operand;
+    int object;
+    int row;
+    int column;
+    int columns; // of the operand
+};
+
+/// The permutation that a source of indices holds for an object.
+int permuted(int object, int index, int order);
 
 /// The values that the size parameters take in tests.
 struct SizeAxes {
@@ -137,6 +163,19 @@ struct Model : ExportName {
     Formula formula;
     const SizeAxes *axes;
     bool destinationMayBeSource = true; // as far as their shapes agree
+
+    /// Results that are made element by element, so that of overlapping rows the last one wins.
+    bool destinationRowsMayOverlap = true;
+
+    /// What makes good operands of arbitrary values: where an object can fail, or results grow without bound. Gives the
+    /// bits of an element in the place of others.
+    std::function<std::uint64_t(const Place &place, std::uint64_t bits)> adjust = {};
+
+    /// Consecutive whole numbers are good operands too.
+    bool takesWholeNumbers = true;
+
+    /// A size that may not be larger than another: their positions in the shape.
+    std::optional<std::pair<int, int>> notLarger = {};
 
     /// How many sizes a shape has.
     std::size_t dimensions() const { return axes->all.front().size(); }
