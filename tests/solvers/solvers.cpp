@@ -600,7 +600,7 @@ Model describeLUBackSubst(const ExportName &name) {
     addSubstitution(model, 0, 0, indicesOf("srcIndex", isMatrixArray(model), false));
     model.formula = formula(LUSubstitution());
     // A large diagonal of U, in the rows that the index says.
-    model.adjust = [type = name.type, isArray = isMatrixArray(model)](const Place &place, std::uint64_t bits) {
+    model.adjust = [type = name.type, isArray = isMatrixArray(model)](const ElementPlace &place, std::uint64_t bits) {
         if (place.operand != 0) {
             return bits;
         }
@@ -621,7 +621,7 @@ Model describeCholeskyDecomp(const ExportName &name) {
     addSizes(model);
     model.formula = formula(CholeskyDecomposition());
     // The diagonal exceeds the sum of its row.
-    model.adjust = [type = name.type](const Place &place, std::uint64_t bits) {
+    model.adjust = [type = name.type](const ElementPlace &place, std::uint64_t bits) {
         return place.operand == 0 && place.row == place.column ? withMagnitude(type, bits, 12, false) : bits;
     };
     if (model.hasCount) {
@@ -636,7 +636,7 @@ Model describeCholeskyBackSubst(const ExportName &name) {
     addSubstitution(model, 0, 0, {});
     model.formula = formula(CholeskySubstitution());
     // Reciprocals of a large diagonal.
-    model.adjust = [type = name.type](const Place &place, std::uint64_t bits) {
+    model.adjust = [type = name.type](const ElementPlace &place, std::uint64_t bits) {
         return place.operand == 0 && place.row == place.column ? withMagnitude(type, bits, -9, false) : bits;
     };
     if (model.hasCount) {
@@ -665,7 +665,7 @@ Model describeQRBackSubst(const ExportName &name) {
     addSubstitution(model, 0, 1, scratchOf(0));
     model.formula = formula(QRSubstitution());
     // A large diagonal of R.
-    model.adjust = [type = name.type](const Place &place, std::uint64_t bits) {
+    model.adjust = [type = name.type](const ElementPlace &place, std::uint64_t bits) {
         return place.operand == 0 && place.row == place.column ? withMagnitude(type, bits, 7, true) : bits;
     };
     if (model.hasCount) {
@@ -688,7 +688,7 @@ Model describeDet(const ExportName &name) {
     model.sizes = {{"widthHeight", 0, 0}};
     model.formula = formula(Determinant());
     // Pivots around 1, so that their product stays in range.
-    model.adjust = [type = name.type](const Place &place, std::uint64_t bits) {
+    model.adjust = [type = name.type](const ElementPlace &place, std::uint64_t bits) {
         const int fraction = type == Float32 ? 23 : 52;
         return place.operand == 0 ? bits - (std::uint64_t(4) << fraction) : bits;
     };

@@ -124,7 +124,7 @@ void Call::readTwice(int earlier, int later) {
 
 void Call::fill(const Fill &fill, Values values) {
     const auto &adjust = export_.model.adjust;
-    const auto bitsAt = [&](const PlacedOperand &operand, const Place &place, std::uint64_t bits) -> std::uint64_t {
+    const auto bitsAt = [&](const PlacedOperand &operand, const ElementPlace &place, std::uint64_t bits) -> std::uint64_t {
         if (operand.model().kind == Kind::Indices) {
             // What is to be written holds no valid index before.
             const int index = permuted(place.object, place.column, place.columns);
@@ -139,7 +139,7 @@ void Call::fill(const Fill &fill, Values values) {
         for (int object = 0; object < operand.objects(); ++object) {
             for (int row = 0; row < operand.rows(); ++row) {
                 for (int column = 0; column < operand.columns(); ++column) {
-                    const Place place = {index, object, row, column, operand.columns()};
+                    const ElementPlace place = {index, object, row, column, operand.columns()};
                     operand.setBits(object, row, column, bitsAt(operand, place, fill(index, element++)));
                 }
             }

@@ -120,7 +120,7 @@ Formula formula(Function function) {
 }
 
 /// Where an element of an operand stands.
-struct Place {
+struct ElementPlace {
     int operand;
     int object;
     int row;
@@ -169,7 +169,7 @@ struct Model : ExportName {
 
     /// What makes good operands of arbitrary values: where an object can fail, or results grow without bound. Gives the
     /// bits of an element in the place of others.
-    std::function<std::uint64_t(const Place &place, std::uint64_t bits)> adjust = {};
+    std::function<std::uint64_t(const ElementPlace &place, std::uint64_t bits)> adjust = {};
 
     /// Consecutive whole numbers are good operands too.
     bool takesWholeNumbers = true;
