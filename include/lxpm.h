@@ -37,6 +37,7 @@
 #include <lxpm/graphics.h>
 #include <lxpm/products.h>
 #include <lxpm/reductions.h>
+#include <lxpm/solvers.h>
 #include <lxpm/types.h>
 #include <lxpm/version.h>
 

@@ -4,7 +4,6 @@
 #include "eigen/eigen_values.h"
 
 #include "eigen/general_objects.h"
-#include "runtime/entry_call.h"
 #include "runtime/parallel.h"
 #include "runtime/rows.h"
 #include "runtime/work.h"
@@ -93,9 +92,7 @@ LxpStatus lxpmEigenValuesVectorsGetBufSize_64f(int widthHeight, int *size) {
 
 } // namespace implementation
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "eigen/eigen_values.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "eigen/eigen_values.list.h"
+#include "runtime/instantiate.h"

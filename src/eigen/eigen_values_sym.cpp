@@ -4,7 +4,6 @@
 #include "eigen/eigen_values_sym.h"
 
 #include "eigen/symmetric_objects.h"
-#include "runtime/entry_call.h"
 #include "runtime/parallel.h"
 #include "runtime/rows.h"
 #include "runtime/work.h"
@@ -50,9 +49,7 @@ LxpStatus SymmetricMember<hasVectors, operands, T, memory>::run(const Arguments 
         buffer.first);
 }
 
-#define MEMBER(operation, code, type, layout, name)                                                                    \
-    template struct Entry<Member<operation, #code, Element_##type, Layout_##layout>>;
-#define EXPORT_LIST "eigen/eigen_values_sym.list.h"
-#include "runtime/exports.h"
-
 } // namespace lxpm
+
+#define EXPORT_LIST "eigen/eigen_values_sym.list.h"
+#include "runtime/instantiate.h"

@@ -22,6 +22,11 @@
 #include "products/transpose.h"
 #include "runtime/entry.h"
 #include "runtime/version.h"
+#include "solvers/cholesky.h"
+#include "solvers/det.h"
+#include "solvers/invert.h"
+#include "solvers/lu.h"
+#include "solvers/qr.h"
 
 #include <lxpm.h>
 #include <type_traits>

@@ -72,6 +72,11 @@ EXPORT(lxpmEigenValuesGetBufSize_64f)
 EXPORT(lxpmEigenValuesVectorsGetBufSize_32f)
 EXPORT(lxpmEigenValuesVectorsGetBufSize_64f)
 #include "graphics/graphics.list.h"
+#include "solvers/lu.list.h"
+#include "solvers/cholesky.list.h"
+#include "solvers/qr.list.h"
+#include "solvers/det.list.h"
+#include "solvers/invert.list.h"
 #include "elementwise/copy.list.h"
 #include "elementwise/extract.list.h"
 #include "elementwise/load_identity.list.h"

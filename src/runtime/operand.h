@@ -295,16 +295,22 @@ struct MatrixOrder : Sizes<1> {
     constexpr int height() const { return size[0]; }
 };
 
-// Where scalar results go: one for each object, one behind the other, in every layout.
+// Numbers one behind the other, in every layout: row numbers, scratch.
 template <class T>
-struct ScalarResults {
+struct PlainArray {
     using Parameters = TypeList<T *>;
     T *first;
 
-    explicit constexpr ScalarResults(T *results) : first(results) {}
+    explicit constexpr PlainArray(T *address) : first(address) {}
     [[gnu::always_inline]] constexpr bool violates(Check check) const {
         return check == Check::Pointers && first == nullptr;
     }
+};
+
+// Where scalar results go: one for each object.
+template <class T>
+struct ScalarResults : PlainArray<T> {
+    using PlainArray<T>::PlainArray;
 };
 
 struct Count {

@@ -88,8 +88,10 @@ Report checkFloatingPointEnvironment(const Export &item) {
     for (const unsigned environment : environments) {
         for (const ParallelCase &at : cases) {
             for (const Pattern *pattern : {&dense, &paddedRows, &gappedElements}) {
-                verify(item, at, *pattern, environment, wholeNumbers(model.type),
-                       always | (model.isExactForWholeNumbers ? 0 : inexact), report);
+                if (model.takesWholeNumbers) {
+                    verify(item, at, *pattern, environment, wholeNumbers(model.type),
+                           always | (model.isExactForWholeNumbers ? 0 : inexact), report);
+                }
                 verify(item, at, *pattern, environment, distinctValues(model.type), always | inexact, report);
             }
         }

@@ -10,7 +10,8 @@ namespace {
 const Pattern *patternFor(const Model &model, const Operand &operand, int number) {
     const Pattern *pattern = allPatterns()[number % allPatterns().size()];
     // A result that is not made element by element, and so may not be written over a source, has no last row either.
-    const bool overlaps = pattern->objectsOverlap || (pattern->rowsOverlap && !model.destinationMayBeSource);
+    const bool overlaps = pattern->objectsOverlap ||
+                          (pattern->rowsOverlap && !(model.destinationMayBeSource && model.destinationRowsMayOverlap));
     return operand.isWritten && overlaps ? &dense : pattern;
 }
 

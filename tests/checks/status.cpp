@@ -53,6 +53,15 @@ std::vector<Fault> faultsOf(const Model &model, const Shape &shape) {
                 faults.push_back({index, value, Check::SizeMatch});
             }
         }
+        if (parameters[index].kind == ParameterKind::Size && model.notLarger) {
+            const auto [size, limit] = *model.notLarger;
+            if (parameters[index].size == size) {
+                faults.push_back({index, shape[limit] + 1, Check::SizeMatch});
+                faults.push_back({index, INT_MAX, Check::SizeMatch});
+            } else if (parameters[index].size == limit && shape[size] > 1) {
+                faults.push_back({index, shape[size] - 1, Check::SizeMatch});
+            }
+        }
     }
     return faults;
 }

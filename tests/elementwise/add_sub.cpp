@@ -58,6 +58,7 @@ Operand makeOperand(std::string role, CodeLetter letter, bool isWritten) {
         return {std::move(role), letter.kind, letter.isArray, isWritten, Operand::one, 0}; // sizes are len
     case Kind::Constant:
     case Kind::Results:
+    case Kind::Indices:
     case Kind::Scratch:
         break;
     }

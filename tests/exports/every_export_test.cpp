@@ -161,7 +161,15 @@ TEST(Coverage, TheListHasAllExports) {
                                                    {"EigenValues", 10},
                                                    {"EigenValuesVectors", 10},
                                                    {"EigenValuesVectorsRight", 10},
-                                                   {"EigenValuesVectorsLeft", 10}}));
+                                                   {"EigenValuesVectorsLeft", 10},
+                                                   {"LUDecomp", 10},
+                                                   {"LUBackSubst", 16},
+                                                   {"CholeskyDecomp", 10},
+                                                   {"CholeskyBackSubst", 16},
+                                                   {"QRDecomp", 10},
+                                                   {"QRBackSubst", 16},
+                                                   {"Det", 10},
+                                                   {"Invert", 10}}));
     // Without a family: lxpmGetLibVersion, and the four sizes of scratch memory for general eigenproblems.
     EXPECT_EQ(exportNames().size(), familyExports().size() + graphicsExports().size() + 1 + 4);
 }

@@ -27,6 +27,9 @@ extern const SizeAxes orders;
 /// Shape {widthHeight} of eigenproblems: those in registers, and those that go through scratch memory.
 extern const SizeAxes eigenOrders;
 
+/// Shape {height, width} of matrices that are square or tall.
+extern const SizeAxes tallSizes;
+
 /// The empty shape, of functions whose operands have one size only.
 extern const SizeAxes noSizes;
 /// Shape {rows, inner, columns} of a product of matrices.

@@ -112,7 +112,7 @@ Call::Call(const Export &item, Shape shape, int count, const std::vector<Placeme
 /// Scratch is as large as the contract says, for the team that the call gets, and not larger.
 Operand Call::sized(const Operand &operand) const {
     Operand result = operand;
-    if (operand.kind == Kind::Scratch) {
+    if (operand.scratchElements) {
         const bool isParallel = export_.model.parallel && export_.model.parallel->isParallel(shape_, count_, true);
         const int teams = operand.hasScratchPerThread && isParallel ? teamFor(count_) : 1;
         result.rows = Operand::one;
@@ -135,7 +135,17 @@ void Call::readTwice(int earlier, int later) {
     operands_[later].becomeSameAs(operands_[earlier]);
 }
 
-void Call::fill(const Fill &fill) {
+void Call::fill(const Fill &fill, Values values) {
+    const auto &adjust = export_.model.adjust;
+    const auto bitsAt = [&](const PlacedOperand &operand, const ElementPlace &place,
+                            std::uint64_t bits) -> std::uint64_t {
+        if (operand.model().kind == Kind::Indices) {
+            // What is to be written holds no valid index before.
+            const int index = permuted(place.object, place.column, place.columns);
+            return static_cast<std::uint32_t>(index + (operand.model().isWritten ? 1000 : 0));
+        }
+        return adjust && values == Values::Adjusted ? adjust(place, bits) : bits;
+    };
     // The destination first: where it is a source's memory, the source's values count.
     for (int index = static_cast<int>(operands_.size()) - 1; index >= 0; --index) {
         PlacedOperand &operand = operands_[index];
@@ -143,7 +153,8 @@ void Call::fill(const Fill &fill) {
         for (int object = 0; object < operand.objects(); ++object) {
             for (int row = 0; row < operand.rows(); ++row) {
                 for (int column = 0; column < operand.columns(); ++column) {
-                    operand.setBits(object, row, column, fill(index, element++));
+                    const ElementPlace place = {index, object, row, column, operand.columns()};
+                    operand.setBits(object, row, column, bitsAt(operand, place, fill(index, element++)));
                 }
             }
         }
@@ -210,6 +221,9 @@ void Call::applyFormula(const std::function<LxpStatus(std::span<const Elements<T
         }
         if (const LxpStatus status = formula(elements); status != lxpStatusOk) {
             failures_.push_back(status);
+            if (export_.model.failingObjectEndsCall) {
+                return;
+            }
         }
     }
 }
@@ -280,16 +294,19 @@ void Call::complain(const std::string &what, Report &report) {
 }
 
 std::string Call::describeDifference(Arena &arena, const std::byte *at) {
-    const int size = sizeOf(export_.model.type);
     // The destination first: where it is a source's memory, a wrong result is the likely cause.
     for (auto operand = operands_.rbegin(); operand != operands_.rend(); ++operand) {
         if (operand->memory().get() == &arena) {
+            const int size = operand->elementSize();
             const std::string element = operand->nameOfElementAt(at);
             if (element.empty()) {
                 return "a byte between the elements of " + operand->model().role + " was changed, " +
                        std::to_string(at - arena.begin()) + " bytes behind its guard page";
             }
             const std::byte *first = arena.begin() + (at - arena.begin()) / size * size;
+            if (operand->model().kind == Kind::Indices) {
+                return operand->model().role + ", " + element + ": a wrong index";
+            }
             return operand->model().role + ", " + element + ": found " + valueText(export_.model.type, first) +
                    ", expected " + valueText(export_.model.type, arena.expected(first));
         }

@@ -40,7 +40,9 @@ public:
     /// Source `later` becomes the memory of source `earlier`, before `fill`.
     void readTwice(int earlier, int later);
 
-    void fill(const Fill &fill);
+    /// As good operands, or as they are.
+    enum class Values { Adjusted, AsTheyAre };
+    void fill(const Fill &fill, Values values = Values::Adjusted);
 
     /// What the formula says, from the operands as they are now.
     void expectResults();

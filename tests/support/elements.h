@@ -37,6 +37,16 @@ public:
 
     /// Anything will do.
     void expectAnything(int row, int column) const { operand_->expectAnything(object_, row, column); }
+    /// Of indices.
+    int index(int position) const {
+        int value;
+        std::memcpy(&value, operand_->element(object_, 0, position), sizeof value);
+        return value;
+    }
+
+    void expectIndex(int position, int value) const {
+        std::memcpy(operand_->expectedElement(object_, 0, position), &value, sizeof value);
+    }
 
     /// Any NaN will do: which of two payloads survives an addition is left to the processor.
     void expectNan(int row, int column) const { operand_->expectAnyNan(object_, row, column); }

@@ -10,6 +10,7 @@
 #include "products/gaxpy.h"
 #include "products/mul.h"
 #include "products/reductions.h"
+#include "solvers/solvers.h"
 
 #include <lxpm.h>
 
@@ -50,6 +51,14 @@ constexpr Family families[] = {
     {"EigenValuesVectors", describeEigenValues},
     {"EigenValuesVectorsRight", describeEigenValues},
     {"EigenValuesVectorsLeft", describeEigenValues},
+    {"LUDecomp", describeLUDecomp},
+    {"LUBackSubst", describeLUBackSubst},
+    {"CholeskyDecomp", describeCholeskyDecomp},
+    {"CholeskyBackSubst", describeCholeskyBackSubst},
+    {"QRDecomp", describeQRDecomp},
+    {"QRBackSubst", describeQRBackSubst},
+    {"Det", describeDet},
+    {"Invert", describeInvert},
 };
 
 Model describe(const ExportName &name) {

@@ -7,8 +7,12 @@
 
 namespace lxpm::test {
 
+int permuted(int object, int index, int order) {
+    return static_cast<int>((static_cast<long>(order - 1) * index + object) % order);
+}
+
 Form formOf(const Operand &operand, Layout layout) {
-    if (operand.kind == Kind::Results || operand.kind == Kind::Scratch) {
+    if (operand.kind == Kind::Results || operand.kind == Kind::Indices || operand.kind == Kind::Scratch) {
         return Form::Dense;
     }
     if (operand.kind == Kind::Constant && !operand.isArray) {
@@ -38,8 +42,8 @@ bool hasRowStride(const Operand &operand, Form form) {
 }
 
 bool hasElementStride(const Operand &operand, Form form) {
-    const bool isScalar =
-        operand.kind == Kind::Constant || operand.kind == Kind::Results || operand.kind == Kind::Scratch;
+    const bool isScalar = operand.kind == Kind::Constant || operand.kind == Kind::Results ||
+                          operand.kind == Kind::Indices || operand.kind == Kind::Scratch;
     return !isScalar && (form == Form::Strided || form == Form::ObjectPointers);
 }
 
@@ -95,7 +99,8 @@ bool Model::mustAgree(int size) const {
 }
 
 std::vector<Parameter> parametersOf(const Operand &operand, Layout layout, ElementType type) {
-    const std::string element = type == ElementType::Float32 ? "float" : "double";
+    const std::string number = type == ElementType::Float32 ? "float" : "double";
+    const std::string element = operand.kind == Kind::Indices ? "int" : number;
     const std::string pointee = (operand.isWritten ? "" : "const ") + element;
     const Form form = formOf(operand, layout);
 

@@ -10,11 +10,13 @@
 
 #include <lxp/status.h>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace lxpm::test {
@@ -33,9 +35,10 @@ constexpr int sizeOf(ElementType type) {
 /// several.
 using Shape = std::vector<int>;
 
-/// Results: one scalar for each object, one behind the other in every layout, which no stride describes. Scratch:
-/// memory that a call may leave in any state.
-enum class Kind { Matrix, Transposed, Vector, Constant, Results, Scratch };
+/// Results: one scalar for each object, one behind the other in every layout, which no stride describes. Indices: whole
+/// numbers, in such memory too; as a source, a permutation for each object. Scratch: elements in such memory, which a
+/// call may leave in any state.
+enum class Kind { Matrix, Transposed, Vector, Constant, Results, Indices, Scratch };
 
 /// An operand of an export, whatever the layout. `rows` and `columns` are those of the logical object, given as
 /// positions in the export's shapes, or as negative numbers where they are always the same.
@@ -121,6 +124,18 @@ Formula formula(Function function) {
     return {withStatus, withStatus};
 }
 
+/// Where an element of an operand stands.
+struct ElementPlace {
+    int operand;
+    int object;
+    int row;
+    int column;
+    int columns; // of the operand
+};
+
+/// The permutation that a source of indices holds for an object.
+int permuted(int object, int index, int order);
+
 /// The values that the size parameters take in tests.
 struct SizeAxes {
     std::vector<Shape> all;
@@ -153,6 +168,22 @@ struct Model : ExportName {
     Formula formula;
     const SizeAxes *axes;
     bool destinationMayBeSource = true; // as far as their shapes agree
+
+    /// Results that are made element by element, so that of overlapping rows the last one wins.
+    bool destinationRowsMayOverlap = true;
+
+    /// What makes good operands of arbitrary values: where an object can fail, or results grow without bound. Gives the
+    /// bits of an element in the place of others.
+    std::function<std::uint64_t(const ElementPlace &place, std::uint64_t bits)> adjust = {};
+
+    /// Whether an object that fails ends the call. Else the others are computed all the same.
+    bool failingObjectEndsCall = false;
+
+    /// Consecutive whole numbers are good operands too.
+    bool takesWholeNumbers = true;
+
+    /// A size that may not be larger than another: their positions in the shape.
+    std::optional<std::pair<int, int>> notLarger = {};
 
     /// How many sizes a shape has.
     std::size_t dimensions() const { return axes->all.front().size(); }

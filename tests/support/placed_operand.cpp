@@ -30,7 +30,8 @@ std::byte *place(Arena &arena, std::size_t bytes, Edge edge, std::size_t shift) 
 
 PlacedOperand::PlacedOperand(const Operand &operand, Layout layout, ElementType type, const Shape &shape, int count,
                              const Placement &placement)
-    : operand_(operand), placement_(placement), form_(formOf(operand, layout)), type_(type), size_(sizeOf(type)),
+    : operand_(operand), placement_(placement), form_(formOf(operand, layout)), type_(type),
+      size_(operand.kind == Kind::Indices ? static_cast<int>(sizeof(int)) : sizeOf(type)),
       objects_(operand.isArray ? count : 1), rows_(operand.rowsOf(shape)), columns_(operand.columnsOf(shape)),
       storedRows_(operand.kind == Kind::Transposed ? columns_ : rows_),
       storedColumns_(operand.kind == Kind::Transposed ? rows_ : columns_) {

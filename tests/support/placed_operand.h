@@ -39,6 +39,7 @@ public:
     int objects() const { return objects_; }
     int rows() const { return rows_; }
     int columns() const { return columns_; }
+    int elementSize() const { return size_; }
 
     /// The same memory, described by the same parameters, in another role.
     void becomeSameAs(const PlacedOperand &other);

@@ -1,0 +1,313 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "solvers/groups.h"
+
+#include "solvers/matrices.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <utility>
+
+namespace lxpm {
+
+namespace detail {
+
+// The distance between two pointers of a table, which may lead into different memory.
+template <class Element>
+std::ptrdiff_t distance(Element *from, Element *to) {
+    return static_cast<std::ptrdiff_t>(reinterpret_cast<std::uintptr_t>(to) - reinterpret_cast<std::uintptr_t>(from));
+}
+
+// Element pointers at regular steps, ascending, are strides by another name. Any other operand comes back as it is.
+template <class Element>
+Addresses<Element> withoutElementPointers(const Addresses<Element> &operand, int rows, int columns) {
+    if (operand.movesByBytes()) {
+        return operand;
+    }
+    const auto pointer = [&](std::ptrdiff_t i, std::ptrdiff_t j) {
+        return operand.pointers[i * operand.pointerStep[1] + j * operand.pointerStep[2]];
+    };
+    Element *const first = pointer(0, 0);
+    const std::ptrdiff_t rowStep =
+        rows > 1 ? distance(first, pointer(1, 0)) : columns * std::ptrdiff_t(sizeof(Element));
+    const std::ptrdiff_t columnStep = columns > 1 ? distance(first, pointer(0, 1)) : std::ptrdiff_t(sizeof(Element));
+    bool isRegular = rowStep > 0 && columnStep > 0;
+    for (std::ptrdiff_t i = 0; i < rows && isRegular; ++i) {
+        for (std::ptrdiff_t j = 0; j < columns; ++j) {
+            isRegular &= distance(first, pointer(i, j)) == i * rowStep + j * columnStep;
+        }
+    }
+    if (!isRegular) {
+        return operand;
+    }
+    return Addresses<Element>::strided(shifted(first, operand.offset), {operand.step[0], rowStep, columnStep});
+}
+
+template <class Element>
+GroupOperand<Element>::GroupOperand(const Addresses<Element> &operand, int height, int width)
+    : addresses(withoutElementPointers(operand, height, width)), rows(height), columns(width) {
+    constexpr auto size = static_cast<std::ptrdiff_t>(sizeof(Element));
+    if (columns == 1 && addresses.movesByBytes()) { // a column whose elements touch is a row
+        addresses.step[2] = size;
+    }
+    access = addresses.rowsTouch()                                        ? Access::RowsTouch
+             : addresses.step[0] == size && addresses.pointerStep[0] == 0 ? Access::ObjectsTouch
+                                                                          : Access::OneByOne;
+    isDense = access == Access::RowsTouch && (rows == 1 || addresses.step[1] == columns * size);
+}
+
+template struct GroupOperand<const float>;
+template struct GroupOperand<const double>;
+template struct GroupOperand<float>;
+template struct GroupOperand<double>;
+
+} // namespace detail
+
+namespace {
+
+using detail::Access;
+
+template <class Element>
+using Pointers = std::array<Element *, fullLanes<std::remove_const_t<Element>>>;
+
+template <class T>
+void turn(std::array<Group<T>, 4> &rows) {
+    if constexpr (groupSize<T> == 8) {
+        transposeHalves(rows);
+    } else {
+        transpose(rows);
+    }
+}
+
+// K elements of each object.
+template <int K, class T>
+[[gnu::always_inline]] inline void loadSome(const Pointers<const T> &from, int first, Group<T> *to) {
+    std::array<Group<T>, 4> rows;
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) {
+        if constexpr (groupSize<T> == 8 && K == 4) {
+            rows[i] = loadHalves(from[i] + first, from[i + 4] + first);
+        } else if constexpr (groupSize<T> == 8) {
+            rows[i] = joined(loadFirst<K>(from[i] + first), loadFirst<K>(from[i + 4] + first));
+        } else {
+            rows[i] = loadFirst<K>(from[i] + first);
+        }
+    }
+    turn<T>(rows);
+#pragma GCC unroll 4
+    for (int i = 0; i < K; ++i) {
+        to[first + i] = rows[i];
+    }
+}
+
+template <int K, class T>
+[[gnu::always_inline]] inline void storeSome(const Group<T> *from, int first, const Pointers<T> &to) {
+    std::array<Group<T>, 4> rows;
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) {
+        rows[i] = from[first + std::min(i, K - 1)];
+    }
+    turn<T>(rows);
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) {
+        if constexpr (groupSize<T> == 8) {
+            storeFirst<K>(to[i] + first, lowHalf(rows[i]));
+            storeFirst<K>(to[i + 4] + first, highHalf(rows[i]));
+        } else {
+            storeFirst<K>(to[i] + first, rows[i]);
+        }
+    }
+}
+
+// A row of each object, by fours. The last of four or more elements go together with some that are done again.
+template <class T>
+[[gnu::always_inline]] inline void loadRow(const Pointers<const T> &from, int columns, Group<T> *to) {
+    if (columns >= 4) {
+        int j = 0;
+        for (; j + 4 <= columns; j += 4) {
+            loadSome<4, T>(from, j, to);
+        }
+        if (j < columns) {
+            loadSome<4, T>(from, columns - 4, to);
+        }
+    } else if (columns == 3) {
+        loadSome<3, T>(from, 0, to);
+    } else if (columns == 2) {
+        loadSome<2, T>(from, 0, to);
+    } else {
+        loadSome<1, T>(from, 0, to);
+    }
+}
+
+template <class T>
+[[gnu::always_inline]] inline void storeRow(const Group<T> *from, int columns, const Pointers<T> &to) {
+    if (columns >= 4) {
+        int j = 0;
+        for (; j + 4 <= columns; j += 4) {
+            storeSome<4, T>(from, j, to);
+        }
+        if (j < columns) {
+            storeSome<4, T>(from, columns - 4, to);
+        }
+    } else if (columns == 3) {
+        storeSome<3, T>(from, 0, to);
+    } else if (columns == 2) {
+        storeSome<2, T>(from, 0, to);
+    } else {
+        storeSome<1, T>(from, 0, to);
+    }
+}
+
+// The rows of a group whose elements touch, one after the other.
+template <class Element>
+class TouchingRows {
+public:
+    TouchingRows(const detail::GroupOperand<Element> &operand, std::ptrdiff_t object)
+        : rowStep(operand.addresses.step[1]), rows(operand.rows) {
+        for (int lane = 0; lane < lanes; ++lane) {
+            start[lane] = operand.addresses.at(object + lane, 0, 0);
+        }
+    }
+
+    Pointers<Element> row(std::ptrdiff_t i) const {
+        Pointers<Element> pointers;
+        for (int lane = 0; lane < lanes; ++lane) {
+            pointers[lane] = shifted(start[lane], i * rowStep);
+        }
+        return pointers;
+    }
+
+    Pointers<Element> row(std::ptrdiff_t i, const int *rowOf) const {
+        Pointers<Element> pointers;
+        for (std::ptrdiff_t lane = 0; lane < lanes; ++lane) {
+            pointers[lane] = shifted(start[lane], rowOf[lane * rows + i] * rowStep);
+        }
+        return pointers;
+    }
+
+private:
+    static constexpr int lanes = fullLanes<std::remove_const_t<Element>>;
+
+    Pointers<Element> start;
+    std::ptrdiff_t rowStep;
+    std::ptrdiff_t rows;
+};
+
+// Where a load by fours of a row may end without leaving it.
+constexpr int readableLengthOf(Part part, int row, int columns) {
+    return part == Part::Whole ? columns : std::min(columns, (row / 4 + 1) * 4);
+}
+
+template <Part part, bool byIndex, class T>
+void loadGroup(const detail::GroupOperand<const T> &from, std::ptrdiff_t object, Group<T> *to, const int *rowOf) {
+    const int rows = from.rows;
+    const int columns = from.columns;
+    if (from.access == Access::RowsTouch) {
+        const TouchingRows<const T> source(from, object);
+        if (from.isDense && !byIndex && (part == Part::Whole || rows <= 6)) {
+            loadRow<T>(source.row(0), rows * columns, to);
+            return;
+        }
+        for (int i = 0; i < rows; ++i) {
+            loadRow<T>(byIndex ? source.row(i, rowOf) : source.row(i), readableLengthOf(part, i, columns),
+                       to + i * columns);
+        }
+        return;
+    }
+    const Addresses<const T> addresses = from.addresses;
+    if (from.access == Access::ObjectsTouch && !byIndex) {
+        for (int i = 0; i < rows; ++i) {
+            for (int j = 0; j < lengthOf(part, i, columns); ++j) {
+                to[i * columns + j] = Group<T>::load(addresses.at(object, i, j));
+            }
+        }
+        return;
+    }
+    for (int i = 0; i < rows; ++i) {
+        for (int j = 0; j < lengthOf(part, i, columns); ++j) {
+            to[i * columns + j] = [&]<std::size_t... lane>(std::index_sequence<lane...>) {
+                const auto row = [&](std::size_t l) { return byIndex ? rowOf[static_cast<int>(l) * rows + i] : i; };
+                return Group<T>{
+                    typename Group<T>::Vector{*addresses.at(object + static_cast<int>(lane), row(lane), j)...}};
+            }
+            (std::make_index_sequence<groupSize<T>>());
+        }
+    }
+}
+
+template <Part part, bool byIndex, class T>
+void storeGroup(const detail::GroupOperand<T> &to, std::ptrdiff_t object, const Group<T> *from, const int *rowOf) {
+    const int rows = to.rows;
+    const int columns = to.columns;
+    if (to.access == Access::RowsTouch) {
+        const TouchingRows<T> destination(to, object);
+        if (to.isDense && !byIndex && part == Part::Whole) {
+            storeRow<T>(from, rows * columns, destination.row(0));
+            return;
+        }
+        for (int i = 0; i < rows; ++i) {
+            storeRow<T>(from + i * columns, lengthOf(part, i, columns),
+                        byIndex ? destination.row(i, rowOf) : destination.row(i));
+        }
+        return;
+    }
+    const Addresses<T> addresses = to.addresses;
+    if (to.access == Access::ObjectsTouch && !byIndex) {
+        for (int i = 0; i < rows; ++i) {
+            for (int j = 0; j < lengthOf(part, i, columns); ++j) {
+                from[i * columns + j].store(addresses.at(object, i, j));
+            }
+        }
+        return;
+    }
+    for (int i = 0; i < rows; ++i) {
+        for (int j = 0; j < lengthOf(part, i, columns); ++j) {
+            std::array<T, groupSize<T>> elements;
+            from[i * columns + j].store(elements.data());
+            for (int lane = 0; lane < groupSize<T>; ++lane) {
+                *addresses.at(object + lane, byIndex ? rowOf[lane * rows + i] : i, j) = elements[lane];
+            }
+        }
+    }
+}
+
+} // namespace
+
+template <class T>
+void GroupSource<T>::load(std::ptrdiff_t object, Group<T> *to) const {
+    loadGroup<Part::Whole, false>(from, object, to, nullptr);
+}
+
+template <class T>
+void GroupSource<T>::load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
+    loadGroup<Part::Whole, true>(from, object, to, rowOf);
+}
+
+template <class T>
+void GroupSource<T>::loadLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
+    loadGroup<Part::LowerTriangle, false>(from, object, to, nullptr);
+}
+
+template <class T>
+void GroupDestination<T>::store(std::ptrdiff_t object, const Group<T> *from) const {
+    storeGroup<Part::Whole, false>(to, object, from, nullptr);
+}
+
+template <class T>
+void GroupDestination<T>::store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
+    storeGroup<Part::Whole, true>(to, object, from, rowOf);
+}
+
+template <class T>
+void GroupDestination<T>::storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
+    storeGroup<Part::LowerTriangle, false>(to, object, from, nullptr);
+}
+
+template class GroupSource<float>;
+template class GroupSource<double>;
+template class GroupDestination<float>;
+template class GroupDestination<double>;
+
+} // namespace lxpm
