@@ -96,7 +96,8 @@ private:
             const std::string_view word = takeWord(line);
             const std::optional<double> number = parse<double>(word);
             if (!number || !std::isfinite(static_cast<float>(*number))) {
-                fail("a vertex needs three finite coordinates" + (word.empty() ? "" : ", not '" + std::string(word) + "'"));
+                fail("a vertex needs three finite coordinates" +
+                     (word.empty() ? "" : ", not '" + std::string(word) + "'"));
             }
             coordinate = static_cast<float>(*number);
         }
