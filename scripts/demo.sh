@@ -4,7 +4,9 @@
 
 # lxpm at work: builds the library, computes with it on the Stanford bunny, and draws what it has computed.
 #
-# usage: scripts/demo.sh [OPTION OF THE MESH EXAMPLE]...       (--help tells which; the last one counts)
+# usage: scripts/demo.sh [OPTION OF THE MESH EXAMPLE]...       (--help tells which)
+#
+# Files are named from the top of the clone.
 
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."

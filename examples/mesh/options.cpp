@@ -51,7 +51,7 @@ std::vector<View> parseViews(std::string_view list) {
         const std::string_view name = list.substr(begin, end - begin);
         const View *view = findView(name);
         if (!view) {
-            throw UsageError("there is no view '" + std::string(name) + "'; there are " + std::string(viewNames()));
+            throw UsageError("there is no view '" + std::string(name) + "'; there are " + viewNames());
         }
         views.push_back(*view);
         begin = end + 1;
