@@ -96,7 +96,8 @@ private:
             const std::string_view word = takeWord(line);
             const std::optional<double> number = parse<double>(word);
             if (!number || !std::isfinite(static_cast<float>(*number))) {
-                fail("a vertex needs three finite coordinates" + (word.empty() ? "" : ", not '" + std::string(word) + "'"));
+                fail("a vertex needs three finite coordinates" +
+                     (word.empty() ? "" : ", not '" + std::string(word) + "'"));
             }
             coordinate = static_cast<float>(*number);
         }
@@ -128,7 +129,10 @@ private:
             fail("a face needs at least three corners");
         }
         for (std::size_t i = 2; i < face_.size(); ++i) {
-            mesh_.triangles.push_back({face_[0], face_[i - 1], face_[i]});
+            const int a = face_[0], b = face_[i - 1], c = face_[i];
+            if (a != b && b != c && c != a) {
+                mesh_.triangles.push_back({a, b, c});
+            }
         }
     }
 

@@ -23,6 +23,7 @@ result is held against a plain loop in double precision.
   --repeat N     run every step N times and report the fastest run (10)
   --help         show this text
 
+The library takes the threads that OpenMP has for it; OMP_NUM_THREADS limits them.
 Exit status: 0 if every result is as exact as it has to be, 1 if one is not, 2 if
 the command line is wrong or a file cannot be used. A picture is written as a
 whole and after everything else, or not at all.
@@ -50,7 +51,7 @@ std::vector<View> parseViews(std::string_view list) {
         const std::string_view name = list.substr(begin, end - begin);
         const View *view = findView(name);
         if (!view) {
-            throw UsageError("there is no view '" + std::string(name) + "'; there are " + std::string(viewNames()));
+            throw UsageError("there is no view '" + std::string(name) + "'; there are " + viewNames());
         }
         views.push_back(*view);
         begin = end + 1;

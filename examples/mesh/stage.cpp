@@ -29,8 +29,13 @@ const View *findView(std::string_view name) {
     return found == std::end(allViews) ? nullptr : found;
 }
 
-std::string_view viewNames() {
-    return "quarter, front, right, back, left, above, below";
+std::string viewNames() {
+    std::string names;
+    for (const View &view : allViews) {
+        names += names.empty() ? "" : ", ";
+        names += view.name;
+    }
+    return names;
 }
 
 Stage::Stage(std::vector<View> viewsToShow, const std::vector<Vertex> &vertices, int size)

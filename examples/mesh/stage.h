@@ -4,6 +4,7 @@
 
 #include "mesh.h"
 
+#include <string>
 #include <string_view>
 
 namespace lxpm::mesh {
@@ -19,8 +20,8 @@ struct View {
 // The view of that name, or null.
 const View *findView(std::string_view name);
 
-// The names of all views, for messages.
-std::string_view viewNames();
+// The names of all views, separated by commas, for messages.
+std::string viewNames();
 
 // What is needed to see the mesh from all views, and what the steps compute for it. The camera stands a little above
 // the middle of the mesh, four times as far from it as any of its vertices, so the mesh fills the picture from every

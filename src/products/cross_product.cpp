@@ -54,7 +54,7 @@ template <class T>
 void crossOneByOne(const CrossOperands<T> &shared, std::ptrdiff_t object, std::ptrdiff_t objects) {
     const CrossOperands<T> operands = shared; // a copy that no store below can reach
     for (; object < objects; ++object) {
-        const auto elements = [object](const Addresses<const T> &source) [[gnu::always_inline]] {
+        const auto elements = [object](const Addresses<const T> &source) __attribute__((always_inline)) {
             return std::array{*source.at(object, 0, 0), *source.at(object, 0, 1), *source.at(object, 0, 2)};
         };
         const auto result = crossed(elements(operands.first), elements(operands.second));
@@ -107,7 +107,7 @@ template <class T, Writing writing>
 template <class T, Reading first, Reading second, Writing writing>
 std::ptrdiff_t crossGroups(const CrossOperands<T> &shared, std::ptrdiff_t objects) {
     const CrossOperands<T> operands = shared;
-    const auto group = [&]<bool readsOn>(std::ptrdiff_t object, std::bool_constant<readsOn>) [[gnu::always_inline]] {
+    const auto group = [&]<bool readsOn>(std::ptrdiff_t object, std::bool_constant<readsOn>) __attribute__((always_inline)) {
         const GroupReader<T, first> a(operands.first, object);
         const GroupReader<T, second> b(operands.second, object);
         writeGroup<T, writing>(operands.dst, object,

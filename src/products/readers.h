@@ -68,7 +68,7 @@ template <int columns, bool>
     if constexpr (columns == 1) {
         return {Group<double>{_mm256_setr_pd(*row[0], *row[1], *row[2], *row[3])}};
     } else {
-        const auto pair = [&](int column) [[gnu::always_inline]] {
+        const auto pair = [&](int column) __attribute__((always_inline)) {
             std::array<Lanes<double, 4>, 2> lanes = {loadHalves(row[0] + column, row[2] + column),
                                                      loadHalves(row[1] + column, row[3] + column)};
             transposeHalves(lanes);

@@ -142,7 +142,7 @@ private:
     template <int Order, bool isDense>
     static void byOrder(const Matrices &shared) {
         const Matrices matrices = shared; // a copy that no store below can reach
-        forEachPair(matrices, [](const Pair &pair) [[gnu::always_inline]] {
+        forEachPair(matrices, [](const Pair &pair) __attribute__((always_inline)) {
             if constexpr (Order == 3 && isDense) {
                 denseOrder3(pair.src, pair.dst);
             } else if constexpr (Order == 3) {
@@ -190,10 +190,10 @@ private:
     // Fewer rows than a block has.
     static void bySmallBlocks(const Matrices &shared) {
         const Matrices m = shared;
-        forEachPair(m, [&](const Pair &pair) [[gnu::always_inline]] {
-            forEachStep(m.height, side, [&](std::ptrdiff_t row) [[gnu::always_inline]] {
+        forEachPair(m, [&](const Pair &pair) __attribute__((always_inline)) {
+            forEachStep(m.height, side, [&](std::ptrdiff_t row) __attribute__((always_inline)) {
                 forEachStep(m.width, side,
-                            [&](std::ptrdiff_t column) [[gnu::always_inline]] { smallBlock(pair, row, column); });
+                            [&](std::ptrdiff_t column) __attribute__((always_inline)) { smallBlock(pair, row, column); });
             });
         });
     }
@@ -202,12 +202,12 @@ private:
     // of large matrices are too far apart for the processor to see what comes next.
     static void byBlocks(const Matrices &shared) {
         const Matrices m = shared;
-        forEachPair(m, [&](const Pair &pair) [[gnu::always_inline]] {
+        forEachPair(m, [&](const Pair &pair) __attribute__((always_inline)) {
             for (std::ptrdiff_t strip = 0; strip < m.width; strip += line) {
                 const std::ptrdiff_t first = std::min(strip, m.width - side);
                 const std::ptrdiff_t columns = std::min(line, m.width - first);
-                forEachStep(m.height, rows, [&](std::ptrdiff_t row) [[gnu::always_inline]] {
-                    forEachStep(columns, side, [&](std::ptrdiff_t column) [[gnu::always_inline]] {
+                forEachStep(m.height, rows, [&](std::ptrdiff_t row) __attribute__((always_inline)) {
+                    forEachStep(columns, side, [&](std::ptrdiff_t column) __attribute__((always_inline)) {
                         block(pair, row, first + column);
                     });
                 });

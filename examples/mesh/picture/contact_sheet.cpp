@@ -16,7 +16,7 @@ constexpr Colour background = {0.87f, 0.88f, 0.90f};
 Raster drawView(const Surface &surface, const Stage &stage, std::size_t view, const std::vector<Colour> &colours) {
     Raster raster(static_cast<int>(stage.rasterSize), background);
     const auto corner = [&](int vertex) {
-        return Fragment{stage.projected[view][vertex], stage.turned[view][vertex].normal, colours[vertex]};
+        return Corner{stage.projected[view][vertex], stage.turned[view][vertex].normal, colours[vertex]};
     };
     for (const auto &[a, b, c] : surface.triangles) {
         raster.draw(corner(a), corner(b), corner(c));

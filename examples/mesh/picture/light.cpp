@@ -11,7 +11,7 @@ namespace lxpm::mesh {
 namespace {
 
 Point normalised(const Point &v) {
-    const float length = std::hypot(v[0], v[1], v[2]);
+    const float length = std::sqrt(v[0] * v[0] + v[1] * v[1] + v[2] * v[2]);
     return length > 0 ? Point{v[0] / length, v[1] / length, v[2] / length} : Point{};
 }
 

@@ -53,17 +53,17 @@ Raster::Raster(int size, Colour background)
       depths_(static_cast<std::size_t>(size) * size, std::numeric_limits<float>::infinity()) {
 }
 
-void Raster::draw(const Fragment &a, const Fragment &b, const Fragment &c) {
+void Raster::draw(const Corner &a, const Corner &b, const Corner &c) {
     const GridPoint p = toGrid(a.place), q = toGrid(b.place), r = toGrid(c.place);
     const std::int64_t area = doubleArea(p, q, r);
     if (area == 0) {
         return;
     }
     if (area > 0) { // seen from behind
-        const auto turned = [](Fragment f) {
-            return Fragment{f.place, {-f.normal[0], -f.normal[1], -f.normal[2]}, f.colour};
+        const auto turned = [](Corner corner) {
+            return Corner{corner.place, {-corner.normal[0], -corner.normal[1], -corner.normal[2]}, corner.colour};
         };
-        const Fragment behind[] = {turned(a), turned(c), turned(b)};
+        const Corner behind[] = {turned(a), turned(c), turned(b)};
         return draw(behind[0], behind[1], behind[2]);
     }
 

@@ -8,7 +8,7 @@
 namespace lxpm::mesh {
 
 // A corner of a triangle on its way into the picture.
-struct Fragment {
+struct Corner {
     Point place; // x to the right, y downwards, in samples; z the depth
     Point normal;
     Colour colour;
@@ -20,7 +20,7 @@ public:
     Raster(int size, Colour background);
 
     // Both sides are visible; the normals are taken to point out of the side that is counter-clockwise.
-    void draw(const Fragment &a, const Fragment &b, const Fragment &c);
+    void draw(const Corner &a, const Corner &b, const Corner &c);
 
     const Image &image() const { return image_; }
 

@@ -4,7 +4,7 @@
 // A box around each vertex that holds all of its neighbours, as a search for collisions wants it: from every coordinate
 // of a vertex, the vertex's own radius is taken, and to every coordinate it is added.
 
-#include "neighbourhoods.h"
+#include "boxes.h"
 #include "real.h"
 #include "strides.h"
 

@@ -6,7 +6,7 @@
 // what it costs to collapse an edge follows from the sum of the quadrics of its ends. Distances are differences of
 // large terms, so the matrices are in double precision.
 
-#include "neighbourhoods.h"
+#include "quadrics.h"
 #include "real.h"
 #include "strides.h"
 

@@ -3,7 +3,7 @@
 
 // A second skin around the mesh, as for shells, fur and outlines: each vertex moved outwards along its normal.
 
-#include "neighbourhoods.h"
+#include "skin.h"
 #include "real.h"
 #include "strides.h"
 

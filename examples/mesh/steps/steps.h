@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "boxes.h"
 #include "curvature.h"
-#include "neighbourhoods.h"
 #include "placement.h"
+#include "quadrics.h"
+#include "skin.h"
 #include "sums_around_vertices.h"
 #include "triangles.h"
 #include "vertex_normals.h"

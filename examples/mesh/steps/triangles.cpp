@@ -126,7 +126,7 @@ Step unitNormalsOfTriangles(Surface &surface) {
         .function = "lxpmMul_vaca_32f_P",
         .objects = surface.triangles.size(),
         .compute =
-            [&surface, factors, normals = elementPointers(std::as_const(surface.areaNormals)),
+            [factors, normals = elementPointers(std::as_const(surface.areaNormals)),
              results = elementPointers(surface.unitNormals)] {
                 return lxpmMul_vaca_32f_P(normals.data(), 0, floatStride, //
                                           factors.data(), floatStride,    //

@@ -3,10 +3,11 @@
 
 // Fails, and says why, unless a PNG file shows what it should.
 //
-// usage: look_at_picture FILE WIDTH HEIGHT [whole] [upright]
+// usage: look_at_picture FILE WIDTH HEIGHT [EXPECTATION]...
 //
-//   whole     the only view is of something convex, so no row has background between its first and its last pixel
-//   upright   ... that is wider below than above, and lit from above
+//   whole     the only view is of something convex: no row has background between its first and its last pixel
+//   upright   ... that is wider below than above
+//   lit       ... that is brighter above than below
 
 #include <algorithm>
 #include <cstdio>
@@ -29,6 +30,10 @@ struct Picture {
         return pixel[0] << 16 | pixel[1] << 8 | pixel[2];
     }
     int background() const { return colour(0, 0); }
+    int brightness(int x, int y) const {
+        const png_byte *pixel = &pixels[3 * (static_cast<std::size_t>(y) * width + x)];
+        return pixel[0] + pixel[1] + pixel[2];
+    }
 };
 
 [[noreturn]] void fail(const char *why) {
@@ -59,6 +64,7 @@ Picture read(const char *path) {
 
 struct Row {
     int first, last, filled; // pixels that are not background
+    double brightness;       // their mean
 };
 
 std::optional<Row> rowOf(const Picture &picture, int y) {
@@ -66,10 +72,11 @@ std::optional<Row> rowOf(const Picture &picture, int y) {
     for (int x = 0; x < picture.width; ++x) {
         if (picture.colour(x, y) != picture.background()) {
             if (!row) {
-                row = Row{x, x, 0};
+                row = Row{x, x, 0, 0};
             }
             row->last = x;
             ++row->filled;
+            row->brightness += (picture.brightness(x, y) - row->brightness) / row->filled;
         }
     }
     return row;
@@ -108,7 +115,7 @@ std::vector<Row> requireWhole(const Picture &picture) {
 } // namespace
 
 int main(int argc, char **argv) {
-    require(argc >= 4, "usage: look_at_picture FILE WIDTH HEIGHT [whole] [upright]");
+    require(argc >= 4, "usage: look_at_picture FILE WIDTH HEIGHT [EXPECTATION]...");
     const Picture picture = read(argv[1]);
     require(picture.width == std::atoi(argv[2]) && picture.height == std::atoi(argv[3]), "the picture's size is wrong");
     requireSomethingToSee(picture);
@@ -119,9 +126,8 @@ int main(int argc, char **argv) {
     };
     if (expected("whole")) {
         const std::vector<Row> rows = requireWhole(picture);
-        if (expected("upright")) {
-            const std::size_t quarter = rows.size() / 4;
-            require(2 * rows[quarter].filled < rows[3 * quarter].filled, "the mesh does not stand upright");
-        }
+        const Row &upper = rows[rows.size() / 4], &lower = rows[3 * rows.size() / 4];
+        require(!expected("upright") || 2 * upper.filled < lower.filled, "the mesh does not stand upright");
+        require(!expected("lit") || upper.brightness > 1.1 * lower.brightness, "the mesh is not lit from above");
     }
 }

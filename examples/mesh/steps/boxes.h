@@ -7,8 +7,6 @@
 
 namespace lxpm::mesh {
 
-Step outerSkin(Surface &surface);
 Step boxesAroundVertices(Surface &surface);
-Step edgeQuadrics(Surface &surface);
 
 } // namespace lxpm::mesh
