@@ -14,6 +14,7 @@
 
 #include <lxpm.h>
 
+#include <iterator>
 #include <stdexcept>
 #include <string_view>
 
@@ -78,29 +79,33 @@ Layout layoutFromText(std::string_view text) {
     return text == "S" ? Layout::Strided : text == "L" ? Layout::ObjectPointers : Layout::ElementPointers;
 }
 
+// The words of the list as they stand. A table of constants is compiled fast, hundreds of calls are not.
+struct Line {
+    const char *name;
+    const char *operation;
+    const char *code;
+    const char *type;
+    const char *layout;
+    Callable::Erased function;
+    Callable::Type functionType;
+};
+
+const Line lines[] = {
+#define MEMBER(operation, code, type, layout, name)                                                                    \
+    {#name, #operation, #code, #type, #layout, reinterpret_cast<Callable::Erased>(&name), Callable::typeOf(&name)},
+#define EXPORT(name)
+#include "runtime/exports.h"
+};
+
 } // namespace
 
 const std::vector<Export> &familyExports() {
-    // The words of the list as they stand: a table is compiled fast, hundreds of calls are not.
-    struct Line {
-        const char *name;
-        const char *operation;
-        const char *code;
-        const char *type;
-        const char *layout;
-        Callable function;
-    };
     static const std::vector<Export> exports = [] {
-        const Line lines[] = {
-#define MEMBER(operation, code, type, layout, name) {#name, #operation, #code, #type, #layout, Callable(&name)},
-#define EXPORT(name)
-#include "runtime/exports.h"
-        };
         std::vector<Export> list;
         for (const Line &line : lines) {
             list.push_back(
                 {describe({line.name, line.operation, line.code, typeFromText(line.type), layoutFromText(line.layout)}),
-                 line.function});
+                 Callable(line.function, line.functionType)});
         }
         return list;
     }();
@@ -108,12 +113,13 @@ const std::vector<Export> &familyExports() {
 }
 
 const std::vector<std::string> &exportNames() {
-    static const std::vector<std::string> names = {
+    static constexpr const char *names[] = {
 #define MEMBER(operation, code, type, layout, name) #name,
 #define EXPORT(name) #name,
 #include "runtime/exports.h"
     };
-    return names;
+    static const std::vector<std::string> list(std::begin(names), std::end(names));
+    return list;
 }
 
 const Export &findExport(const std::string &name) {
