@@ -85,7 +85,8 @@ private:
     template <int most, class Order>
     LxpStatus all(Order order, int first, int count) const {
         return overGroups<lanes>(
-            first, count, [&](int object) { return group<most>(order, object); },
+            first, count, [&](int object) { return group<most, Twice<L>>(order, object); },
+            [&](int object) { return group<most, L>(order, object); },
             [&](int object) { return small<most>(order, object); });
     }
 
@@ -168,32 +169,33 @@ private:
     }
 
     // One object in each lane.
-    template <int most, class Order>
+    template <int most, class V, class Order>
     [[gnu::noinline]] LxpStatus group(Order order, int object) const {
+        constexpr int objects = NumberOf<V>::lanes;
         expectBetween<1, most>(order);
-        L a[most * most];
-        L d[most];
+        V a[most * most];
+        V d[most];
         LaneMemory<T>::load(problem_.source, object, order, order, a);
         if constexpr (most == 2 && !wantsVectors) {
             if (any(solvePair(a[0], a[1], a[3], d))) {
-                return overEach(object, lanes, [&](int one) { return small<most>(order, one); });
+                return overEach(object, objects, [&](int one) { return small<most>(order, one); });
             }
             LaneMemory<T>::storeDense(d, valuesOf(object), 2);
             return lxpStatusOk;
         } else {
-            L e[most];
+            V e[most];
             const auto failures = symmetric::solve<most, wantsVectors>(order, a, d, e);
             if (any(failures.unconverged)) {
-                return overEach(object, lanes, [&](int one) { return small<most>(order, one); });
+                return overEach(object, objects, [&](int one) { return small<most>(order, one); });
             }
             const bool isAnySingular = any(failures.singular);
             if constexpr (wantsVectors) {
                 symmetric::sort(order, d, a);
                 LaneMemory<T>::store(a, 1, order, problem_.vectors, object, order, order);
             } else {
-                L asFound[most];
+                V asFound[most];
                 std::copy_n(d, static_cast<int>(order), asFound);
-                symmetric::sort(order, d, static_cast<L *>(nullptr));
+                symmetric::sort(order, d, static_cast<V *>(nullptr));
                 for (int i = 0; i < order && isAnySingular; ++i) {
                     d[i] = choose(failures.singular, asFound[i], d[i]);
                 }
