@@ -42,5 +42,6 @@ void appendAddSub(std::vector<Case> &cases);
 void appendMoving(std::vector<Case> &cases);
 void appendReductions(std::vector<Case> &cases);
 void appendGraphics(std::vector<Case> &cases);
+void appendEigenproblems(std::vector<Case> &cases);
 
 } // namespace lxpm::bench

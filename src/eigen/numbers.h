@@ -62,6 +62,12 @@ inline bool any(bool mask) {
 inline bool all(bool mask) {
     return mask;
 }
+inline bool both(bool a, bool b) {
+    return a && b;
+}
+inline bool either(bool a, bool b) {
+    return a || b;
+}
 inline bool without(bool mask, bool others) {
     return mask && !others;
 }
@@ -112,10 +118,10 @@ using Mask64 = MaskOf<Lanes64>;
     inline Mask without(Mask mask, Mask others) {                                                                      \
         return {_mm256_andnot_##ps(others.bits, mask.bits)};                                                           \
     }                                                                                                                  \
-    inline Mask operator&(Mask a, Mask b) {                                                                            \
+    inline Mask both(Mask a, Mask b) {                                                                                 \
         return {_mm256_and_##ps(a.bits, b.bits)};                                                                      \
     }                                                                                                                  \
-    inline Mask operator|(Mask a, Mask b) {                                                                            \
+    inline Mask either(Mask a, Mask b) {                                                                               \
         return {_mm256_or_##ps(a.bits, b.bits)};                                                                       \
     }
 LXPM_ON_LANES(Lanes32, Mask32, ps)
@@ -163,9 +169,6 @@ template <class M>
 struct TwiceMask {
     M low;
     M high;
-
-    friend TwiceMask operator&(TwiceMask a, TwiceMask b) { return {a.low & b.low, a.high & b.high}; }
-    friend TwiceMask operator|(TwiceMask a, TwiceMask b) { return {a.low | b.low, a.high | b.high}; }
 };
 
 template <class L>
@@ -204,16 +207,24 @@ inline Twice<L> choose(TwiceMask<M> mask, Twice<L> a, Twice<L> b) {
     return {choose(mask.low, a.low, b.low), choose(mask.high, a.high, b.high)};
 }
 template <class M>
+inline TwiceMask<M> both(TwiceMask<M> a, TwiceMask<M> b) {
+    return {both(a.low, b.low), both(a.high, b.high)};
+}
+template <class M>
+inline TwiceMask<M> either(TwiceMask<M> a, TwiceMask<M> b) {
+    return {either(a.low, b.low), either(a.high, b.high)};
+}
+template <class M>
 inline TwiceMask<M> without(TwiceMask<M> mask, TwiceMask<M> others) {
     return {without(mask.low, others.low), without(mask.high, others.high)};
 }
 template <class M>
 inline bool any(TwiceMask<M> mask) {
-    return any(mask.low | mask.high);
+    return any(either(mask.low, mask.high));
 }
 template <class M>
 inline bool all(TwiceMask<M> mask) {
-    return all(mask.low & mask.high);
+    return all(both(mask.low, mask.high));
 }
 
 // --- Of all ---

@@ -41,7 +41,7 @@ template <class V>
     const V r = root(root1 + root2);
     const auto isPositive = isLess(eps, trace);
     const auto isNegative = isLess(trace, negated(eps));
-    const MaskOf<V> isEither = isPositive | isNegative;
+    const MaskOf<V> isEither = either(isPositive, isNegative);
     const V first = half * choose(isPositive, trace + r, choose(isNegative, trace - r, r));
     values[0] = first;
     values[1] = choose(isEither, determinant / choose(isEither, first, constant<V>(1)), constant<V>(-0.5) * r);
@@ -209,10 +209,9 @@ private:
     T *buffer_;
 };
 
-template <class T>
+template <bool wantsVectors, class T>
 LxpStatus solveSymmetric(const SymmetricProblem<T> &problem, int first, int count, T *buffer) {
-    return problem.wantsVectors ? SymmetricKernel<T, true>::run(problem, first, count, buffer)
-                                : SymmetricKernel<T, false>::run(problem, first, count, buffer);
+    return SymmetricKernel<T, wantsVectors>::run(problem, first, count, buffer);
 }
 
 } // namespace lxpm

@@ -11,5 +11,6 @@ void addAddSub(PeerTable &table);
 void addMoving(PeerTable &table);
 void addReductions(PeerTable &table);
 void addGraphics(PeerTable &table);
+void addEigenproblems(PeerTable &table);
 
 } // namespace lxpm::bench::eigen
