@@ -43,5 +43,6 @@ void appendMoving(std::vector<Case> &cases);
 void appendProducts(std::vector<Case> &cases);
 void appendReductions(std::vector<Case> &cases);
 void appendGraphics(std::vector<Case> &cases);
+void appendEigenproblems(std::vector<Case> &cases);
 
 } // namespace lxpm::bench

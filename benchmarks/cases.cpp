@@ -12,6 +12,7 @@ std::vector<Case> allCases() {
     appendProducts(cases);
     appendReductions(cases);
     appendGraphics(cases);
+    appendEigenproblems(cases);
     return cases;
 }
 

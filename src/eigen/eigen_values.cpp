@@ -38,7 +38,8 @@ template <class T>
     const std::size_t bytes = isSolvedOnStack(problem.order) ? 0 : elements * sizeof(T);
     return overShares(parallel, count, bytes, [&](const Share &share) {
         T *const own = static_cast<T *>(share.scratch);
-        return solveGeneral(problem, share.first, share.count, own != nullptr ? own : buffer);
+        const auto solve = problem.wantsVectors() ? solveGeneral<true, T> : solveGeneral<false, T>;
+        return solve(problem, share.first, share.count, own != nullptr ? own : buffer);
     });
 }
 

@@ -23,11 +23,11 @@ constexpr Row<InOrder> orders[] = {
 constexpr Threshold threshold = serialBelow(1001);
 
 // All objects of a call. Each thread has its own part of the caller's scratch.
-template <class T>
+template <bool hasVectors, class T>
 [[gnu::noinline]] LxpStatus solveObjects(bool parallel, int count, const SymmetricProblem<T> &problem, T *buffer) {
     const auto area = static_cast<std::ptrdiff_t>(problem.order) * problem.order;
     return overShares(parallel, count, 0, [&](const Share &share) {
-        return solveSymmetric(problem, share.first, share.count, buffer + share.thread * area);
+        return solveSymmetric<hasVectors>(problem, share.first, share.count, buffer + share.thread * area);
     });
 }
 
@@ -43,9 +43,8 @@ LxpStatus SymmetricMember<hasVectors, operands, T, memory>::run(const Arguments 
     const int count = number.value;
 
     const bool parallel = isArray && threshold.isParallel(Work(order) * (Work(order) + 1) * count);
-    return solveObjects<T>(
-        parallel, count,
-        {source.addresses(order, order), vectors.addresses(order, order), values.first, order, hasVectors},
+    return solveObjects<hasVectors, T>(
+        parallel, count, {source.addresses(order, order), vectors.addresses(order, order), values.first, order},
         buffer.first);
 }
 

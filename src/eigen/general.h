@@ -79,6 +79,11 @@ inline Lanes64 powerOfTwoIn(Lanes64 x) {
     return {_mm256_and_pd(x.vector, constant<Lanes64>(std::numeric_limits<double>::infinity()).vector)};
 }
 
+template <class L>
+inline Twice<L> powerOfTwoIn(Twice<L> x) {
+    return {powerOfTwoIn(x.low), powerOfTwoIn(x.high)};
+}
+
 // Brings a matrix whose largest element is out of bounds to a magnitude around 1. Returns the power of two by which
 // its eigenvalues have to be multiplied.
 template <class Order, class V>
@@ -91,10 +96,10 @@ template <class Order, class V>
     }
     const V one = constant<V>(1);
     // Zeros stay what they are, and so does what is not finite.
-    const MaskOf<V> isSmall = isLess(largest, constant<V>(smallestScale<T>)) & isLess(constant<V>(0), largest);
-    const MaskOf<V> isLarge = isLess(constant<V>(largestScale<T>), largest) &
-                              isLessEqual(largest, constant<V>(std::numeric_limits<T>::max()));
-    const MaskOf<V> isOut = isSmall | isLarge;
+    const MaskOf<V> isSmall = both(isLess(largest, constant<V>(smallestScale<T>)), isLess(constant<V>(0), largest));
+    const MaskOf<V> isLarge = both(isLess(constant<V>(largestScale<T>), largest),
+                                   isLessEqual(largest, constant<V>(std::numeric_limits<T>::max())));
+    const MaskOf<V> isOut = either(isSmall, isLarge);
     if (none(isOut)) {
         return one;
     }
@@ -241,8 +246,8 @@ template <int most, class Order, class V>
         V &element = h[first * order + first - 1];
         const V size = magnitude(element);
         const V neighbours = magnitude(h[(first - 1) * order + first - 1]) + magnitude(h[first * order + first]);
-        const auto isNegligible = inBlock & (isLessEqual(size, constant<V>(roundoff<T>) * neighbours) |
-                                             isLessEqual(size, constant<V>(safeMinimum<T>)));
+        const auto isNegligible = both(inBlock, either(isLessEqual(size, constant<V>(roundoff<T>) * neighbours),
+                                                       isLessEqual(size, constant<V>(safeMinimum<T>))));
         element = choose(isNegligible, constant<V>(0), element);
         inBlock = without(inBlock, isNegligible);
         if (none(inBlock)) {
@@ -268,7 +273,7 @@ template <bool wantsVectors, class Order, class V>
     const V distance = root(magnitude(q));
     const auto isReal = isLessEqual(zero, q);
     const V shift = choose(isLess(p, zero), p - distance, p + distance);
-    const MaskOf<V> isApart = without(mask & isReal, isEqual(shift, zero));
+    const MaskOf<V> isApart = without(both(mask, isReal), isEqual(shift, zero));
     const V larger = x + choose(isReal, shift, p);
     const V other = choose(isApart, x - w / divisorWhere(isApart, shift), larger);
     re[end - 1] = choose(mask, larger, re[end - 1]);
@@ -276,7 +281,7 @@ template <bool wantsVectors, class Order, class V>
     im[end - 1] = choose(mask, choose(isReal, zero, distance), im[end - 1]);
     im[end] = choose(mask, choose(isReal, zero, negated(distance)), im[end]);
     if constexpr (wantsVectors) {
-        const MaskOf<V> turns = mask & isReal;
+        const MaskOf<V> turns = both(mask, isReal);
         const V size = divisorWhere(turns, magnitude(below) + magnitude(shift));
         const V s = below / size;
         const V c = shift / size;
@@ -314,8 +319,8 @@ template <bool wantsVectors, int most, class Order, class V>
     const V tiniest = constant<V>(tiniestSquares<T>);
     for (int k = first; k < end; ++k) {
         const bool hasThird = k + 2 <= end;
-        const MaskOf<V> isInside = k > first ? mask & block.at(k - 1) : everywhere<V>(false);
-        const MaskOf<V> active = mask & block.at(k);
+        const MaskOf<V> isInside = k > first ? both(mask, block.at(k - 1)) : everywhere<V>(false);
+        const MaskOf<V> active = both(mask, block.at(k));
         const MaskOf<V> starts = without(active, isInside);
         V *row0 = h + k * order;
         V *row1 = row0 + order;
@@ -419,7 +424,7 @@ template <bool wantsVectors, int most, class Order, class V>
             const auto isPair = without(isNotOne, isLonger);
             if (any(isPair)) {
                 solvePair<wantsVectors>(isPair, order, h, z, end, re, im);
-                isDone = isDone | isPair;
+                isDone = either(isDone, isPair);
             }
             pending = isLonger;
             if (none(pending)) {
@@ -497,7 +502,7 @@ public:
         const V zero = constant<V>(0);
         for (int column = order_ - 1; column >= 0; --column) {
             const Mask isSecond = isLess(im_[column], zero);
-            const Mask isReal = without(everywhere<V>(true), isSecond | isLess(zero, im_[column]));
+            const Mask isReal = without(everywhere<V>(true), either(isSecond, isLess(zero, im_[column])));
             if (any(isReal)) {
                 solveReal(isReal, column);
                 transformBack<false>(isReal, column);
@@ -529,7 +534,7 @@ private:
     // A vector that grows would overflow; its length does not matter.
     template <bool isComplex>
     void limit(Mask mask, V size, int from, int last) {
-        const MaskOf<V> isLarge = mask & isLess(constant<V>(1), constant<V>(roundoff<T>) * size * size);
+        const MaskOf<V> isLarge = both(mask, isLess(constant<V>(1), constant<V>(roundoff<T>) * size * size));
         if (any(isLarge)) {
             const V factor = choose(isLarge, constant<V>(1) / divisorWhere(isLarge, size), constant<V>(1));
             for (int j = from; j <= last; ++j) {
@@ -550,8 +555,8 @@ private:
         for (int i = last - 1; i >= 0; --i) {
             const V w = t(i, i) - p;
             const V r = sumOf(i, last, xRe_);
-            const Mask isOne = mask & isEqual(im_[i], zero);
-            const Mask isFirst = mask & isLess(zero, im_[i]);
+            const Mask isOne = both(mask, isEqual(im_[i], zero));
+            const Mask isFirst = both(mask, isLess(zero, im_[i]));
             V x = zero;
             V size = zero;
             if (any(isOne)) {
@@ -590,7 +595,7 @@ private:
         const V beside = t(last - 1, last);
         const V below = t(last, last - 1);
         const auto isByLower = isLess(magnitude(beside), magnitude(below));
-        const V overBelow = one / divisorWhere(mask & isByLower, below);
+        const V overBelow = one / divisorWhere(both(mask, isByLower), below);
         const Mask isByUpper = without(mask, isByLower);
         const Complex<V> upper = quotient<V>(isByUpper, {zero, negated(beside)}, {t(last - 1, last - 1) - p, q});
         xRe_[last - 1] = choose(isByLower, q * overBelow, upper.re);
@@ -600,8 +605,8 @@ private:
         for (int i = last - 2; i >= 0; --i) {
             const V w = t(i, i) - p;
             const Complex<V> sum = {sumOf(i, last, xRe_), sumOf(i, last, xIm_)};
-            const Mask isOne = mask & isEqual(im_[i], zero);
-            const Mask isFirst = mask & isLess(zero, im_[i]);
+            const Mask isOne = both(mask, isEqual(im_[i], zero));
+            const Mask isFirst = both(mask, isLess(zero, im_[i]));
             Complex<V> x = {zero, zero};
             V size = zero;
             if (any(isOne)) {
@@ -625,7 +630,7 @@ private:
                                                       ((a * lowerSum.im) - lowerPivot * sum.im) - q * sum.re},
                                                      {vr, vi});
                 const Mask isByA = isLess(magnitude(lowerPivot) + magnitude(q), magnitude(a));
-                const V overA = one / divisorWhere(isFirst & isByA, a);
+                const V overA = one / divisorWhere(both(isFirst, isByA), a);
                 const Complex<V> byA = {((negated(sum.re) - w * first.re) + q * first.im) * overA,
                                         ((negated(sum.im) - w * first.im) - q * first.re) * overA};
                 const Complex<V> byPivot = quotient<V>(

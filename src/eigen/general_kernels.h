@@ -53,6 +53,7 @@ public:
 private:
     using L = typename LaneMemory<T>::L;
     static constexpr int lanes = LaneMemory<T>::lanes;
+    static constexpr int mostSideBySide = wantsVectors ? 0 : 4; // two groups of larger ones crowd the registers
     template <int most>
     static constexpr int mostOfVectors = wantsVectors ? most : 1;
 
@@ -60,9 +61,18 @@ private:
 
     template <int most, class Order>
     LxpStatus all(Order order, int first, int count) const {
-        return overGroups<lanes>(
-            first, count, [&](int object) { return group<most>(order, object); },
-            [&](int object) { return small<most>(order, object); });
+        const auto lanesOf = [&](int object) { return group<most, L>(order, object); };
+        const auto wide = [&](int object) {
+            if constexpr (most <= mostSideBySide) {
+                return group<most, Twice<L>>(order, object);
+            } else {
+                FirstStatus status;
+                status.record(lanesOf(object));
+                status.record(lanesOf(object + lanes));
+                return status.get();
+            }
+        };
+        return overGroups<lanes>(first, count, wide, lanesOf, [&](int object) { return small<most>(order, object); });
     }
 
     // Eigenvalues and eigenvectors of the matrix h. Calls storeValues(found, re, im), and
@@ -143,34 +153,35 @@ private:
     }
 
     // One object in each lane. An object that fails sends its group back to be solved one by one.
-    template <int most, class Order>
+    template <int most, class V, class Order>
     [[gnu::noinline]] LxpStatus group(Order order, int object) const {
+        constexpr int objects = NumberOf<V>::lanes;
         expectBetween<1, most>(order);
-        L h[most * most];
-        L z[mostOfVectors<most> * mostOfVectors<most>];
-        L right[mostOfVectors<most> * mostOfVectors<most>];
-        L left[mostOfVectors<most> * mostOfVectors<most>];
-        L re[most];
-        L im[most];
-        L vectors[general::vectorsOfRoom * most];
+        V h[most * most];
+        V z[mostOfVectors<most> * mostOfVectors<most>];
+        V right[mostOfVectors<most> * mostOfVectors<most>];
+        V left[mostOfVectors<most> * mostOfVectors<most>];
+        V re[most];
+        V im[most];
+        V vectors[general::vectorsOfRoom * most];
         LaneMemory<T>::load(problem_.source, object, order, order, h);
         const auto failed = solve<most>(
-            order, h, general::Room<L>{z, re, im, vectors},
-            [&](auto unconverged, int, const L *allRe, const L *allIm) {
+            order, h, general::Room<V>{z, re, im, vectors},
+            [&](auto unconverged, int, const V *allRe, const V *allIm) {
                 if (none(unconverged)) {
                     const std::ptrdiff_t values = static_cast<std::ptrdiff_t>(object) * order;
                     LaneMemory<T>::storeDense(allRe, problem_.re + values, order);
                     LaneMemory<T>::storeDense(allIm, problem_.im + values, order);
                 }
             },
-            [&](bool isLeft, auto mask, int column, const L *elements) {
-                L *to = (isLeft ? left : right) + column * order;
+            [&](bool isLeft, auto mask, int column, const V *elements) {
+                V *to = (isLeft ? left : right) + column * order;
                 for (int i = 0; i < order; ++i) {
                     to[i] = choose(mask, elements[i], to[i]);
                 }
             });
         if (any(failed)) {
-            return overEach(object, lanes, [&](int one) { return small<most>(order, one); });
+            return overEach(object, objects, [&](int one) { return small<most>(order, one); });
         }
         if constexpr (wantsVectors) {
             if (problem_.wantsRight) {
@@ -187,10 +198,9 @@ private:
     T *buffer_;
 };
 
-template <class T>
+template <bool wantsVectors, class T>
 LxpStatus solveGeneral(const GeneralProblem<T> &problem, int first, int count, T *buffer) {
-    return problem.wantsVectors() ? GeneralKernel<T, true>::run(problem, first, count, buffer)
-                                  : GeneralKernel<T, false>::run(problem, first, count, buffer);
+    return GeneralKernel<T, wantsVectors>::run(problem, first, count, buffer);
 }
 
 } // namespace lxpm

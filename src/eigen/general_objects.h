@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// General eigenproblems of one object after another. The kernels are compiled once for each type.
+// General eigenproblems of one object after another. The kernels are compiled by themselves for each type, with and
+// without vectors.
 
 #include "runtime/addresses.h"
 
@@ -28,7 +29,7 @@ struct GeneralProblem {
 
 // Objects first, ..., first + count - 1. `buffer` holds order * (order + 5) elements, or order * (3 * order + 5) if
 // vectors are wanted. Returns the first status other than lxpStatusOk.
-template <class T>
+template <bool wantsVectors, class T>
 LxpStatus solveGeneral(const GeneralProblem<T> &problem, int first, int count, T *buffer);
 
 // Matrices up to this order are solved one in each lane; of a larger one the registers would leave the first cache.

@@ -9,7 +9,6 @@
 #include "runtime/addresses.h"
 #include "runtime/lanes.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <utility>
@@ -23,14 +22,57 @@ public:
     using L = Lanes<T, lanes>;
 
     // Objects from `object` on, row by row.
-    static void load(const Addresses<const T> &source, std::ptrdiff_t object, int rows, int columns, L *to) {
+    template <class V>
+    static void load(const Addresses<const T> &source, std::ptrdiff_t object, int rows, int columns, V *to) {
+        for (int part = 0; part < registers<V>; ++part) {
+            loadPart(source, object + part * lanes, rows, columns, partsOf(to) + part, registers<V>);
+        }
+    }
+
+    // Element (i, j) of each object comes from elements[i * rowStep + j * columnStep].
+    template <class V>
+    static void store(const V *elements, std::ptrdiff_t rowStep, std::ptrdiff_t columnStep, const Addresses<T> &to,
+                      std::ptrdiff_t object, int rows, int columns) {
+        for (int part = 0; part < registers<V>; ++part) {
+            storePart(partsOf(elements) + part, rowStep * registers<V>, columnStep * registers<V>, to,
+                      object + part * lanes, rows, columns);
+        }
+    }
+
+    // A vector of each object; the vectors of successive objects touch.
+    template <class V>
+    static void storeDense(const V *elements, T *to, int length) {
+        for (int part = 0; part < registers<V>; ++part) {
+            Pointers<T> at;
+            for (int lane = 0; lane < lanes; ++lane) {
+                at[lane] = to + static_cast<std::ptrdiff_t>(part * lanes + lane) * length;
+            }
+            storeRow(partsOf(elements) + part, registers<V>, at, length);
+        }
+    }
+
+private:
+    template <class Element>
+    using Pointers = std::array<Element *, lanes>;
+
+    template <class V>
+    static constexpr int registers = sizeof(V) / sizeof(L);
+
+    static L *partsOf(L *elements) { return elements; }
+    static L *partsOf(Twice<L> *elements) { return &elements->low; }
+    static const L *partsOf(const L *elements) { return elements; }
+    static const L *partsOf(const Twice<L> *elements) { return &elements->low; }
+
+    static void loadPart(const Addresses<const T> &source, std::ptrdiff_t object, int rows, int columns, L *to,
+                         std::ptrdiff_t step) {
         if (!source.rowsTouch()) {
             for (int i = 0; i < rows; ++i) {
                 for (int j = 0; j < columns; ++j) {
-                    *to++ = [&]<std::size_t... lane>(std::index_sequence<lane...>) {
+                    *to = [&]<std::size_t... lane>(std::index_sequence<lane...>) {
                         return L{typename L::Vector{*source.at(object + lane, i, j)...}};
                     }
                     (std::make_index_sequence<lanes>());
+                    to += step;
                 }
             }
             return;
@@ -44,17 +86,16 @@ public:
             rows = 1;
         }
         for (int i = 0; i < rows; ++i) {
-            loadRow(from, columns, to);
-            to += columns;
+            loadRow(from, columns, to, step);
+            to += columns * step;
             for (const T *&row : from) {
                 row = shifted(row, source.step[1]);
             }
         }
     }
 
-    // Element (i, j) of each object comes from elements[i * rowStep + j * columnStep].
-    static void store(const L *elements, std::ptrdiff_t rowStep, std::ptrdiff_t columnStep, const Addresses<T> &to,
-                      std::ptrdiff_t object, int rows, int columns) {
+    static void storePart(const L *elements, std::ptrdiff_t rowStep, std::ptrdiff_t columnStep, const Addresses<T> &to,
+                          std::ptrdiff_t object, int rows, int columns) {
         if (!to.rowsTouch()) {
             for (int i = 0; i < rows; ++i) {
                 for (int j = 0; j < columns; ++j) {
@@ -78,31 +119,18 @@ public:
         }
     }
 
-    // A vector of each object; the vectors of successive objects touch.
-    static void storeDense(const L *elements, T *to, int length) {
-        Pointers<T> at;
-        for (int lane = 0; lane < lanes; ++lane) {
-            at[lane] = to + static_cast<std::ptrdiff_t>(lane) * length;
-        }
-        storeRow(elements, 1, at, length);
-    }
-
-private:
-    template <class Element>
-    using Pointers = std::array<Element *, lanes>;
-
-    static void loadRow(const Pointers<const T> &from, int length, L *to) {
+    static void loadRow(const Pointers<const T> &from, int length, L *to, std::ptrdiff_t step) {
         int j = 0;
         for (; j + 4 <= length; j += 4) {
-            loadSome<4>(from, j, to);
+            loadSome<4>(from, j, to, step);
         }
         switch (length - j) {
         case 1:
-            return loadSome<1>(from, j, to);
+            return loadSome<1>(from, j, to, step);
         case 2:
-            return loadSome<2>(from, j, to);
+            return loadSome<2>(from, j, to, step);
         case 3:
-            return loadSome<3>(from, j, to);
+            return loadSome<3>(from, j, to, step);
         default:
             return;
         }
@@ -126,7 +154,7 @@ private:
     }
 
     template <int K>
-    static void loadSome(const Pointers<const T> &from, int first, L *to) {
+    static void loadSome(const Pointers<const T> &from, int first, L *to, std::ptrdiff_t step) {
         std::array<L, 4> rows;
         for (int i = 0; i < 4; ++i) {
             if constexpr (lanes == 8) {
@@ -136,7 +164,9 @@ private:
             }
         }
         turn(rows);
-        std::copy_n(rows.begin(), K, to + first);
+        for (int i = 0; i < K; ++i) {
+            to[(first + i) * step] = rows[i];
+        }
     }
 
     template <int K>

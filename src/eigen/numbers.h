@@ -62,6 +62,12 @@ inline bool any(bool mask) {
 inline bool all(bool mask) {
     return mask;
 }
+inline bool both(bool a, bool b) {
+    return a && b;
+}
+inline bool either(bool a, bool b) {
+    return a || b;
+}
 inline bool without(bool mask, bool others) {
     return mask && !others;
 }
@@ -109,16 +115,13 @@ using Mask64 = MaskOf<Lanes64>;
     inline bool all(Mask mask) {                                                                                       \
         return _mm256_movemask_##ps(mask.bits) == (1 << NumberOf<Number>::lanes) - 1;                                  \
     }                                                                                                                  \
-    inline unsigned lanesOf(Mask mask) {                                                                               \
-        return static_cast<unsigned>(_mm256_movemask_##ps(mask.bits));                                                 \
-    }                                                                                                                  \
     inline Mask without(Mask mask, Mask others) {                                                                      \
         return {_mm256_andnot_##ps(others.bits, mask.bits)};                                                           \
     }                                                                                                                  \
-    inline Mask operator&(Mask a, Mask b) {                                                                            \
+    inline Mask both(Mask a, Mask b) {                                                                                 \
         return {_mm256_and_##ps(a.bits, b.bits)};                                                                      \
     }                                                                                                                  \
-    inline Mask operator|(Mask a, Mask b) {                                                                            \
+    inline Mask either(Mask a, Mask b) {                                                                               \
         return {_mm256_or_##ps(a.bits, b.bits)};                                                                       \
     }
 LXPM_ON_LANES(Lanes32, Mask32, ps)
@@ -146,7 +149,85 @@ inline Lanes64 choose(Mask64 mask, Lanes64 a, Lanes64 b) {
 }
 #endif
 
-// --- Of both ---
+// --- Two registers side by side ---
+
+// An iteration waits for roots and quotients most of the time. Two that do not depend on one another fill the time.
+template <class L>
+struct Twice {
+    L low;
+    L high;
+
+    static Twice splat(typename NumberOf<L>::Element value) { return {L::splat(value), L::splat(value)}; }
+
+    friend Twice operator+(Twice a, Twice b) { return {a.low + b.low, a.high + b.high}; }
+    friend Twice operator-(Twice a, Twice b) { return {a.low - b.low, a.high - b.high}; }
+    friend Twice operator*(Twice a, Twice b) { return {a.low * b.low, a.high * b.high}; }
+    friend Twice operator/(Twice a, Twice b) { return {a.low / b.low, a.high / b.high}; }
+};
+
+template <class M>
+struct TwiceMask {
+    M low;
+    M high;
+};
+
+template <class L>
+struct NumberOf<Twice<L>> {
+    using Element = typename NumberOf<L>::Element;
+    using Mask = TwiceMask<typename NumberOf<L>::Mask>;
+    static constexpr int lanes = 2 * NumberOf<L>::lanes;
+};
+
+template <class L>
+inline MaskOf<Twice<L>> isLess(Twice<L> a, Twice<L> b) {
+    return {isLess(a.low, b.low), isLess(a.high, b.high)};
+}
+template <class L>
+inline MaskOf<Twice<L>> isLessEqual(Twice<L> a, Twice<L> b) {
+    return {isLessEqual(a.low, b.low), isLessEqual(a.high, b.high)};
+}
+template <class L>
+inline MaskOf<Twice<L>> isEqual(Twice<L> a, Twice<L> b) {
+    return {isEqual(a.low, b.low), isEqual(a.high, b.high)};
+}
+template <class L>
+inline Twice<L> magnitude(Twice<L> x) {
+    return {magnitude(x.low), magnitude(x.high)};
+}
+template <class L>
+inline Twice<L> negated(Twice<L> x) {
+    return {negated(x.low), negated(x.high)};
+}
+template <class L>
+inline Twice<L> root(Twice<L> x) {
+    return {root(x.low), root(x.high)};
+}
+template <class M, class L>
+inline Twice<L> choose(TwiceMask<M> mask, Twice<L> a, Twice<L> b) {
+    return {choose(mask.low, a.low, b.low), choose(mask.high, a.high, b.high)};
+}
+template <class M>
+inline TwiceMask<M> both(TwiceMask<M> a, TwiceMask<M> b) {
+    return {both(a.low, b.low), both(a.high, b.high)};
+}
+template <class M>
+inline TwiceMask<M> either(TwiceMask<M> a, TwiceMask<M> b) {
+    return {either(a.low, b.low), either(a.high, b.high)};
+}
+template <class M>
+inline TwiceMask<M> without(TwiceMask<M> mask, TwiceMask<M> others) {
+    return {without(mask.low, others.low), without(mask.high, others.high)};
+}
+template <class M>
+inline bool any(TwiceMask<M> mask) {
+    return any(either(mask.low, mask.high));
+}
+template <class M>
+inline bool all(TwiceMask<M> mask) {
+    return all(both(mask.low, mask.high));
+}
+
+// --- Of all ---
 
 template <class V>
 inline V constant(double value) {

@@ -48,13 +48,18 @@ inline LxpStatus overEach(int first, int count, const Solve &solve) {
     return status.get();
 }
 
-// Calls group(object) for whole groups of objects, and solve(object) for those that are left over.
-template <int lanes, class Group, class Solve>
-inline LxpStatus overGroups(int first, int count, const Group &group, const Solve &solve) {
+// Calls wide(object) for groups of twice as many objects as there are lanes, group(object) for one of as many, and
+// solve(object) for each of those that are left over.
+template <int lanes, class Wide, class Group, class Solve>
+inline LxpStatus overGroups(int first, int count, const Wide &wide, const Group &group, const Solve &solve) {
     FirstStatus status;
     int object = 0;
-    for (; object + lanes <= count; object += lanes) {
+    for (; object + 2 * lanes <= count; object += 2 * lanes) {
+        status.record(wide(first + object));
+    }
+    if (object + lanes <= count) {
         status.record(group(first + object));
+        object += lanes;
     }
     status.record(overEach(first + object, count - object, solve));
     return status.get();

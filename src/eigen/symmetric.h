@@ -188,11 +188,11 @@ template <int most, class Order, class V, class Line>
             V p = zero;
             auto running = active;
             for (int i = end - 1; i >= first; --i) {
-                MaskOf<V> rotating = block.at(i) & running;
+                MaskOf<V> rotating = both(block.at(i), running);
                 const V f = s * e[i];
                 const V b = c * e[i];
                 r = root(f * f + g * g);
-                const MaskOf<V> stops = rotating & isLessEqual(r, eps);
+                const MaskOf<V> stops = both(rotating, isLessEqual(r, eps));
                 if (i + 1 < end) {
                     // At the end of its block a lane stores a zero.
                     e[i + 1] = choose(rotating, choose(block.at(i + 1), r, zero), e[i + 1]);

@@ -41,7 +41,7 @@ template <class V>
     const V r = root(root1 + root2);
     const auto isPositive = isLess(eps, trace);
     const auto isNegative = isLess(trace, negated(eps));
-    const MaskOf<V> isEither = isPositive | isNegative;
+    const MaskOf<V> isEither = either(isPositive, isNegative);
     const V first = half * choose(isPositive, trace + r, choose(isNegative, trace - r, r));
     values[0] = first;
     values[1] = choose(isEither, determinant / choose(isEither, first, constant<V>(1)), constant<V>(-0.5) * r);
@@ -85,7 +85,8 @@ private:
     template <int most, class Order>
     LxpStatus all(Order order, int first, int count) const {
         return overGroups<lanes>(
-            first, count, [&](int object) { return group<most>(order, object); },
+            first, count, [&](int object) { return group<most, Twice<L>>(order, object); },
+            [&](int object) { return group<most, L>(order, object); },
             [&](int object) { return small<most>(order, object); });
     }
 
@@ -168,32 +169,33 @@ private:
     }
 
     // One object in each lane.
-    template <int most, class Order>
+    template <int most, class V, class Order>
     [[gnu::noinline]] LxpStatus group(Order order, int object) const {
+        constexpr int objects = NumberOf<V>::lanes;
         expectBetween<1, most>(order);
-        L a[most * most];
-        L d[most];
+        V a[most * most];
+        V d[most];
         LaneMemory<T>::load(problem_.source, object, order, order, a);
         if constexpr (most == 2 && !wantsVectors) {
             if (any(solvePair(a[0], a[1], a[3], d))) {
-                return overEach(object, lanes, [&](int one) { return small<most>(order, one); });
+                return overEach(object, objects, [&](int one) { return small<most>(order, one); });
             }
             LaneMemory<T>::storeDense(d, valuesOf(object), 2);
             return lxpStatusOk;
         } else {
-            L e[most];
+            V e[most];
             const auto failures = symmetric::solve<most, wantsVectors>(order, a, d, e);
             if (any(failures.unconverged)) {
-                return overEach(object, lanes, [&](int one) { return small<most>(order, one); });
+                return overEach(object, objects, [&](int one) { return small<most>(order, one); });
             }
             const bool isAnySingular = any(failures.singular);
             if constexpr (wantsVectors) {
                 symmetric::sort(order, d, a);
                 LaneMemory<T>::store(a, 1, order, problem_.vectors, object, order, order);
             } else {
-                L asFound[most];
+                V asFound[most];
                 std::copy_n(d, static_cast<int>(order), asFound);
-                symmetric::sort(order, d, static_cast<L *>(nullptr));
+                symmetric::sort(order, d, static_cast<V *>(nullptr));
                 for (int i = 0; i < order && isAnySingular; ++i) {
                     d[i] = choose(failures.singular, asFound[i], d[i]);
                 }
@@ -207,10 +209,9 @@ private:
     T *buffer_;
 };
 
-template <class T>
+template <bool wantsVectors, class T>
 LxpStatus solveSymmetric(const SymmetricProblem<T> &problem, int first, int count, T *buffer) {
-    return problem.wantsVectors ? SymmetricKernel<T, true>::run(problem, first, count, buffer)
-                                : SymmetricKernel<T, false>::run(problem, first, count, buffer);
+    return SymmetricKernel<T, wantsVectors>::run(problem, first, count, buffer);
 }
 
 } // namespace lxpm

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Symmetric eigenproblems of one object after another. The eigen kernels are compiled once for each type.
+// Symmetric eigenproblems of one object after another. The kernels are compiled by themselves for each type, with and
+// without vectors.
 
 #include "runtime/addresses.h"
 
@@ -16,12 +17,11 @@ struct SymmetricProblem {
     Addresses<T> vectors; // of nothing, if values alone are wanted
     T *values;
     int order;
-    bool wantsVectors;
 };
 
 // Objects first, ..., first + count - 1, in `buffer` of order * order elements. Returns the first status other than
 // lxpStatusOk.
-template <class T>
+template <bool wantsVectors, class T>
 LxpStatus solveSymmetric(const SymmetricProblem<T> &problem, int first, int count, T *buffer);
 
 } // namespace lxpm

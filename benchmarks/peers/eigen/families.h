@@ -12,5 +12,6 @@ void addMoving(PeerTable &table);
 void addProducts(PeerTable &table);
 void addReductions(PeerTable &table);
 void addGraphics(PeerTable &table);
+void addEigenproblems(PeerTable &table);
 
 } // namespace lxpm::bench::eigen

@@ -5,6 +5,6 @@
 
 namespace lxpm {
 
-template LxpStatus solveGeneral(const GeneralProblem<double> &, int, int, double *);
+template LxpStatus solveGeneral<false>(const GeneralProblem<float> &, int, int, float *);
 
 } // namespace lxpm

@@ -5,6 +5,6 @@
 
 namespace lxpm {
 
-template LxpStatus solveSymmetric(const SymmetricProblem<double> &, int, int, double *);
+template LxpStatus solveSymmetric<true>(const SymmetricProblem<double> &, int, int, double *);
 
 } // namespace lxpm

@@ -5,6 +5,6 @@
 
 namespace lxpm {
 
-template LxpStatus solveSymmetric(const SymmetricProblem<float> &, int, int, float *);
+template LxpStatus solveSymmetric<true>(const SymmetricProblem<float> &, int, int, float *);
 
 } // namespace lxpm

@@ -5,6 +5,6 @@
 
 namespace lxpm {
 
-template LxpStatus solveGeneral(const GeneralProblem<float> &, int, int, float *);
+template LxpStatus solveGeneral<true>(const GeneralProblem<float> &, int, int, float *);
 
 } // namespace lxpm
