@@ -160,39 +160,63 @@ template <class T>
     }
 }
 
-// The rows of a group whose elements touch, one after the other.
+// Where the objects of a group, their rows and their elements start. Of an operand that moves by bytes; or, where a row
+// has element pointers of its own, of one that does so from object to object.
 template <class Element>
-class TouchingRows {
+class Places {
 public:
-    TouchingRows(const detail::GroupOperand<Element> &operand, std::ptrdiff_t object)
-        : rowStep(operand.addresses.step[1]), rows(operand.rows) {
+    Places(const detail::GroupOperand<Element> &operand, std::ptrdiff_t object)
+        : pointers(operand.addresses.movesByBytes() ? nullptr : operand.addresses.pointers),
+          pointerRow(operand.addresses.pointerStep[1]), pointerColumn(operand.addresses.pointerStep[2]),
+          rowStep(operand.addresses.step[1]), columnStep(operand.addresses.step[2]), rows(operand.rows) {
+        const Addresses<Element> &a = operand.addresses;
+        const std::ptrdiff_t step = a.step[0];
+        std::ptrdiff_t bytes = a.offset + object * step;
         for (int lane = 0; lane < lanes; ++lane) {
-            start[lane] = operand.addresses.at(object + lane, 0, 0);
+            offset[lane] = bytes;
+            bytes += step;
+        }
+        if (pointers != nullptr) {
+            return;
+        }
+        for (int lane = 0; lane < lanes; ++lane) {
+            start[lane] =
+                shifted(a.pointers != nullptr ? a.pointers[(object + lane) * a.pointerStep[0]] : a.base, offset[lane]);
         }
     }
 
     Pointers<Element> row(std::ptrdiff_t i) const {
-        Pointers<Element> pointers;
+        Pointers<Element> to;
         for (int lane = 0; lane < lanes; ++lane) {
-            pointers[lane] = shifted(start[lane], i * rowStep);
+            to[lane] = shifted(start[lane], i * rowStep);
         }
-        return pointers;
+        return to;
     }
 
     Pointers<Element> row(std::ptrdiff_t i, const int *rowOf) const {
-        Pointers<Element> pointers;
+        Pointers<Element> to;
         for (std::ptrdiff_t lane = 0; lane < lanes; ++lane) {
-            pointers[lane] = shifted(start[lane], rowOf[lane * rows + i] * rowStep);
+            to[lane] = shifted(start[lane], rowOf[lane * rows + i] * rowStep);
         }
-        return pointers;
+        return to;
+    }
+
+    Element *element(int lane, std::ptrdiff_t i, std::ptrdiff_t j) const {
+        return pointers != nullptr ? shifted(pointers[i * pointerRow + j * pointerColumn], offset[lane])
+                                   : shifted(start[lane], i * rowStep + j * columnStep);
     }
 
 private:
     static constexpr int lanes = fullLanes<std::remove_const_t<Element>>;
 
-    Pointers<Element> start;
+    Element *const *pointers;
+    std::ptrdiff_t pointerRow;
+    std::ptrdiff_t pointerColumn;
     std::ptrdiff_t rowStep;
+    std::ptrdiff_t columnStep;
     std::ptrdiff_t rows;
+    std::array<std::ptrdiff_t, lanes> offset;
+    Pointers<Element> start;
 };
 
 // Where a load by fours of a row may end without leaving it.
@@ -204,8 +228,8 @@ template <Part part, bool byIndex, class T>
 void loadGroup(const detail::GroupOperand<const T> &from, std::ptrdiff_t object, Group<T> *to, const int *rowOf) {
     const int rows = from.rows;
     const int columns = from.columns;
+    const Places<const T> source(from, object);
     if (from.access == Access::RowsTouch) {
-        const TouchingRows<const T> source(from, object);
         if (from.isDense && !byIndex && (part == Part::Whole || rows <= 6)) {
             loadRow<T>(source.row(0), rows * columns, to);
             return;
@@ -216,23 +240,21 @@ void loadGroup(const detail::GroupOperand<const T> &from, std::ptrdiff_t object,
         }
         return;
     }
-    const Addresses<const T> addresses = from.addresses;
     if (from.access == Access::ObjectsTouch && !byIndex) {
         for (int i = 0; i < rows; ++i) {
             for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-                to[i * columns + j] = Group<T>::load(addresses.at(object, i, j));
+                to[i * columns + j] = Group<T>::load(source.element(0, i, j));
             }
         }
         return;
     }
     for (int i = 0; i < rows; ++i) {
         for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-            to[i * columns + j] = [&]<std::size_t... lane>(std::index_sequence<lane...>) {
-                const auto row = [&](std::size_t l) { return byIndex ? rowOf[static_cast<int>(l) * rows + i] : i; };
-                return Group<T>{
-                    typename Group<T>::Vector{*addresses.at(object + static_cast<int>(lane), row(lane), j)...}};
+            to[i * columns + j] = [&]<int... lane>(std::integer_sequence<int, lane...>) {
+                const auto row = [&](int l) { return byIndex ? rowOf[l * rows + i] : i; };
+                return Group<T>{typename Group<T>::Vector{*source.element(lane, row(lane), j)...}};
             }
-            (std::make_index_sequence<groupSize<T>>());
+            (std::make_integer_sequence<int, groupSize<T>>());
         }
     }
 }
@@ -241,8 +263,8 @@ template <Part part, bool byIndex, class T>
 void storeGroup(const detail::GroupOperand<T> &to, std::ptrdiff_t object, const Group<T> *from, const int *rowOf) {
     const int rows = to.rows;
     const int columns = to.columns;
+    const Places<T> destination(to, object);
     if (to.access == Access::RowsTouch) {
-        const TouchingRows<T> destination(to, object);
         if (to.isDense && !byIndex && part == Part::Whole) {
             storeRow<T>(from, rows * columns, destination.row(0));
             return;
@@ -253,11 +275,10 @@ void storeGroup(const detail::GroupOperand<T> &to, std::ptrdiff_t object, const 
         }
         return;
     }
-    const Addresses<T> addresses = to.addresses;
     if (to.access == Access::ObjectsTouch && !byIndex) {
         for (int i = 0; i < rows; ++i) {
             for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-                from[i * columns + j].store(addresses.at(object, i, j));
+                from[i * columns + j].store(destination.element(0, i, j));
             }
         }
         return;
@@ -267,7 +288,7 @@ void storeGroup(const detail::GroupOperand<T> &to, std::ptrdiff_t object, const 
             std::array<T, groupSize<T>> elements;
             from[i * columns + j].store(elements.data());
             for (int lane = 0; lane < groupSize<T>; ++lane) {
-                *addresses.at(object + lane, byIndex ? rowOf[lane * rows + i] : i, j) = elements[lane];
+                *destination.element(lane, byIndex ? rowOf[lane * rows + i] : i, j) = elements[lane];
             }
         }
     }
