@@ -56,6 +56,7 @@ GroupOperand<Element>::GroupOperand(const Addresses<Element> &operand, int heigh
              : addresses.step[0] == size && addresses.pointerStep[0] == 0 ? Access::ObjectsTouch
                                                                           : Access::OneByOne;
     isDense = access == Access::RowsTouch && (rows == 1 || addresses.step[1] == columns * size);
+    isPlain = isDense && addresses.pointers == nullptr;
 }
 
 template struct GroupOperand<const float>;
@@ -69,57 +70,9 @@ namespace {
 
 using detail::Access;
 
-template <class Element>
-using Pointers = std::array<Element *, fullLanes<std::remove_const_t<Element>>>;
-
-template <class T>
-void turn(std::array<Group<T>, 4> &rows) {
-    if constexpr (groupSize<T> == 8) {
-        transposeHalves(rows);
-    } else {
-        transpose(rows);
-    }
-}
-
-// K elements of each object.
-template <int K, class T>
-[[gnu::always_inline]] inline void loadSome(const Pointers<const T> &from, int first, Group<T> *to) {
-    std::array<Group<T>, 4> rows;
-#pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) {
-        if constexpr (groupSize<T> == 8 && K == 4) {
-            rows[i] = loadHalves(from[i] + first, from[i + 4] + first);
-        } else if constexpr (groupSize<T> == 8) {
-            rows[i] = joined(loadFirst<K>(from[i] + first), loadFirst<K>(from[i + 4] + first));
-        } else {
-            rows[i] = loadFirst<K>(from[i] + first);
-        }
-    }
-    turn<T>(rows);
-#pragma GCC unroll 4
-    for (int i = 0; i < K; ++i) {
-        to[first + i] = rows[i];
-    }
-}
-
-template <int K, class T>
-[[gnu::always_inline]] inline void storeSome(const Group<T> *from, int first, const Pointers<T> &to) {
-    std::array<Group<T>, 4> rows;
-#pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) {
-        rows[i] = from[first + std::min(i, K - 1)];
-    }
-    turn<T>(rows);
-#pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) {
-        if constexpr (groupSize<T> == 8) {
-            storeFirst<K>(to[i] + first, lowHalf(rows[i]));
-            storeFirst<K>(to[i + 4] + first, highHalf(rows[i]));
-        } else {
-            storeFirst<K>(to[i] + first, rows[i]);
-        }
-    }
-}
+using detail::loadSome;
+using detail::Pointers;
+using detail::storeSome;
 
 // A row of each object, by fours. The last of four or more elements go together with some that are done again.
 template <class T>
@@ -297,32 +250,32 @@ void storeGroup(const detail::GroupOperand<T> &to, std::ptrdiff_t object, const 
 } // namespace
 
 template <class T>
-void GroupSource<T>::load(std::ptrdiff_t object, Group<T> *to) const {
+void GroupSource<T>::loadAny(std::ptrdiff_t object, Group<T> *to) const {
     loadGroup<Part::Whole, false>(from, object, to, nullptr);
 }
 
 template <class T>
-void GroupSource<T>::load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
+void GroupSource<T>::loadAny(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
     loadGroup<Part::Whole, true>(from, object, to, rowOf);
 }
 
 template <class T>
-void GroupSource<T>::loadLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
+void GroupSource<T>::loadAnyLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
     loadGroup<Part::LowerTriangle, false>(from, object, to, nullptr);
 }
 
 template <class T>
-void GroupDestination<T>::store(std::ptrdiff_t object, const Group<T> *from) const {
+void GroupDestination<T>::storeAny(std::ptrdiff_t object, const Group<T> *from) const {
     storeGroup<Part::Whole, false>(to, object, from, nullptr);
 }
 
 template <class T>
-void GroupDestination<T>::store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
+void GroupDestination<T>::storeAny(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
     storeGroup<Part::Whole, true>(to, object, from, rowOf);
 }
 
 template <class T>
-void GroupDestination<T>::storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
+void GroupDestination<T>::storeAnyLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
     storeGroup<Part::LowerTriangle, false>(to, object, from, nullptr);
 }
 

@@ -40,7 +40,7 @@ bool invertGroup(const GroupSource<T> &source, const GroupDestination<T> &destin
     const int n = Order != 0 ? Order : order;
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
-    source.load(object, a);
+    source.template load<Order, Order>(object, a);
     LaneRows<T> rows(a, rowNumbers, n);
     if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
         return false;
@@ -58,7 +58,7 @@ bool invertGroup(const GroupSource<T> &source, const GroupDestination<T> &destin
             overRange<Order>(
                 0, n, [&](int i) __attribute__((always_inline)) { inverse[i * n + column] = x[i]; });
         });
-    destination.store(object, inverse);
+    destination.template store<Order, Order>(object, inverse);
     return true;
 }
 
