@@ -56,7 +56,7 @@ GroupOperand<Element>::GroupOperand(const Addresses<Element> &operand, int heigh
              : addresses.step[0] == size && addresses.pointerStep[0] == 0 ? Access::ObjectsTouch
                                                                           : Access::OneByOne;
     isDense = access == Access::RowsTouch && (rows == 1 || addresses.step[1] == columns * size);
-    isPlain = isDense && addresses.pointers == nullptr;
+    isPlain = isDense && (addresses.pointers == nullptr || addresses.pointerStep == Steps{1, 0, 0});
 }
 
 template struct GroupOperand<const float>;
@@ -138,8 +138,13 @@ public:
         }
     }
 
+    bool movesByBytes() const { return pointers == nullptr; }
+
     Pointers<Element> row(std::ptrdiff_t i) const {
-        Pointers<Element> to;
+        Pointers<Element> to = {};
+        if (!movesByBytes()) {
+            return to;
+        }
         for (int lane = 0; lane < lanes; ++lane) {
             to[lane] = shifted(start[lane], i * rowStep);
         }
@@ -147,7 +152,10 @@ public:
     }
 
     Pointers<Element> row(std::ptrdiff_t i, const int *rowOf) const {
-        Pointers<Element> to;
+        Pointers<Element> to = {};
+        if (!movesByBytes()) {
+            return to;
+        }
         for (std::ptrdiff_t lane = 0; lane < lanes; ++lane) {
             to[lane] = shifted(start[lane], rowOf[lane * rows + i] * rowStep);
         }
@@ -201,13 +209,25 @@ void loadGroup(const detail::GroupOperand<const T> &from, std::ptrdiff_t object,
         }
         return;
     }
+    const auto rowOfLane = [&](int lane, int i) { return byIndex ? rowOf[lane * rows + i] : i; };
+    const auto gather = [&](const auto &element) __attribute__((always_inline)) {
+        return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
+            return Group<T>{typename Group<T>::Vector{*element(lane)...}};
+        }
+        (std::make_integer_sequence<int, groupSize<T>>());
+    };
     for (int i = 0; i < rows; ++i) {
+        const Pointers<const T> row = byIndex ? source.row(i, rowOf) : source.row(i);
         for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-            to[i * columns + j] = [&]<int... lane>(std::integer_sequence<int, lane...>) {
-                const auto row = [&](int l) { return byIndex ? rowOf[l * rows + i] : i; };
-                return Group<T>{typename Group<T>::Vector{*source.element(lane, row(lane), j)...}};
+            Group<T> &element = to[i * columns + j];
+            if (source.movesByBytes()) {
+                const std::ptrdiff_t bytes = j * from.addresses.step[2];
+                element = gather([&](int lane) __attribute__((always_inline)) { return shifted(row[lane], bytes); });
+            } else {
+                element = gather([&](int lane) __attribute__((always_inline)) {
+                    return source.element(lane, rowOfLane(lane, i), j);
+                });
             }
-            (std::make_integer_sequence<int, groupSize<T>>());
         }
     }
 }
@@ -237,11 +257,16 @@ void storeGroup(const detail::GroupOperand<T> &to, std::ptrdiff_t object, const 
         return;
     }
     for (int i = 0; i < rows; ++i) {
+        const Pointers<T> row = byIndex ? destination.row(i, rowOf) : destination.row(i);
         for (int j = 0; j < lengthOf(part, i, columns); ++j) {
             std::array<T, groupSize<T>> elements;
             from[i * columns + j].store(elements.data());
+            const std::ptrdiff_t bytes = j * to.addresses.step[2];
+#pragma GCC unroll 8
             for (int lane = 0; lane < groupSize<T>; ++lane) {
-                *destination.element(lane, byIndex ? rowOf[lane * rows + i] : i, j) = elements[lane];
+                *(destination.movesByBytes() ? shifted(row[lane], bytes)
+                                             : destination.element(lane, byIndex ? rowOf[lane * rows + i] : i, j)) =
+                    elements[lane];
             }
         }
     }

@@ -41,7 +41,7 @@ struct GroupOperand {
     int rows;
     int columns;
     bool isDense; // the elements of an object stand in one row
-    bool isPlain; // and one pointer leads to all objects
+    bool isPlain; // and a pointer leads to all objects or to each
 };
 
 extern template struct GroupOperand<const float>;
@@ -106,9 +106,17 @@ template <int K, class T>
 template <class Element>
 [[gnu::always_inline]] inline Pointers<Element> pointersTo(const GroupOperand<Element> &operand,
                                                            std::ptrdiff_t object) {
-    const std::ptrdiff_t step = operand.addresses.step[0];
-    Element *const first = shifted(operand.addresses.base, operand.addresses.offset + object * step);
+    const Addresses<Element> &a = operand.addresses;
     Pointers<Element> pointers;
+    if (a.pointers != nullptr) {
+#pragma GCC unroll 8
+        for (int lane = 0; lane < static_cast<int>(pointers.size()); ++lane) {
+            pointers[lane] = shifted(a.pointers[object + lane], a.offset);
+        }
+        return pointers;
+    }
+    const std::ptrdiff_t step = a.step[0];
+    Element *const first = shifted(a.base, a.offset + object * step);
 #pragma GCC unroll 8
     for (int lane = 0; lane < static_cast<int>(pointers.size()); ++lane) {
         pointers[lane] = shifted(first, lane * step);

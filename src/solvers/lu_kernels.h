@@ -76,9 +76,7 @@ LxpStatus decomposeOne(const Addresses<const T> &source, int *index, const Addre
     const int done = eliminate<Order, SmallOrderRules>(rows, Order);
     for (int k = 0; k < done; ++k) {
         index[k] = rowNumbers[k];
-        for (int j = 0; j < Order; ++j) {
-            *destination.at(0, rowNumbers[k], j) = rows(k, j);
-        }
+        copyMatrix<Part::Whole>(plainMatrix<const T>(&rows(k, 0), Order), destination.from(0, rowNumbers[k]), 1, Order);
     }
     return done < Order ? lxpStatusSingularErr : lxpStatusOk;
 }
