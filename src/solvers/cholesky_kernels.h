@@ -96,12 +96,12 @@ bool decomposeGroup(const GroupSource<T> &source, const GroupDestination<T> &des
                     std::ptrdiff_t object) {
     const int n = Order != 0 ? Order : order;
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
-    source.loadLowerTriangle(object, a);
+    source.template loadLowerTriangle<Order>(object, a);
     const TouchingMatrix<Group<T>> matrix = {a, n};
     if (factorize<Order, Group<T>>(matrix, matrix, n) < n) {
         return false;
     }
-    destination.storeLowerTriangle(object, a);
+    destination.template storeLowerTriangle<Order>(object, a);
     return true;
 }
 
@@ -194,11 +194,11 @@ void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right,
     const int n = Order != 0 ? Order : order;
     Group<T> l[Order != 0 ? Order * Order : largestGroup];
     Group<T> x[Order != 0 ? Order : largestCopied];
-    factors.loadLowerTriangle(object, l);
-    right.load(object, x);
+    factors.template loadLowerTriangle<Order>(object, l);
+    right.template load<Order != 0, Order>(object, x);
     const TouchingMatrix<Group<T>> matrix = {l, n};
     substitute<Order, Group<T>>(matrix, x, n);
-    solution.store(object, x);
+    solution.template store<Order != 0, Order>(object, x);
 }
 
 // Right-hand sides in lanes, the same factor for all of them.
@@ -207,9 +207,9 @@ void substituteInto(const Factor &factor, const GroupSource<T> &right, const Gro
                     std::ptrdiff_t object) {
     const int n = Order != 0 ? Order : order;
     Group<T> x[Order != 0 ? Order : largestGroup];
-    right.load(object, x);
+    right.template load<Order != 0, Order>(object, x);
     substitute<Order, Group<T>>(factor, x, n);
-    solution.store(object, x);
+    solution.template store<Order != 0, Order>(object, x);
 }
 
 template <class T, int Order>

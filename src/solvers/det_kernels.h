@@ -92,7 +92,7 @@ template <class T, int Order>
 bool determinantsOfGroup(const GroupSource<T> &source, int order, T *results, std::ptrdiff_t object) {
     const int n = Order != 0 ? Order : order;
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
-    source.load(object, a);
+    source.template load<Order, Order>(object, a);
     Group<T> result;
     if constexpr (Order != 0 && Order <= 4) {
         result = expand<Order, Group<T>>(TouchingMatrix<Group<T>>{a, Order});

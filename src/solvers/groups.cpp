@@ -56,6 +56,7 @@ GroupOperand<Element>::GroupOperand(const Addresses<Element> &operand, int heigh
              : addresses.step[0] == size && addresses.pointerStep[0] == 0 ? Access::ObjectsTouch
                                                                           : Access::OneByOne;
     isDense = access == Access::RowsTouch && (rows == 1 || addresses.step[1] == columns * size);
+    isPlain = isDense && (addresses.pointers == nullptr || addresses.pointerStep == Steps{1, 0, 0});
 }
 
 template struct GroupOperand<const float>;
@@ -69,57 +70,9 @@ namespace {
 
 using detail::Access;
 
-template <class Element>
-using Pointers = std::array<Element *, fullLanes<std::remove_const_t<Element>>>;
-
-template <class T>
-void turn(std::array<Group<T>, 4> &rows) {
-    if constexpr (groupSize<T> == 8) {
-        transposeHalves(rows);
-    } else {
-        transpose(rows);
-    }
-}
-
-// K elements of each object.
-template <int K, class T>
-[[gnu::always_inline]] inline void loadSome(const Pointers<const T> &from, int first, Group<T> *to) {
-    std::array<Group<T>, 4> rows;
-#pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) {
-        if constexpr (groupSize<T> == 8 && K == 4) {
-            rows[i] = loadHalves(from[i] + first, from[i + 4] + first);
-        } else if constexpr (groupSize<T> == 8) {
-            rows[i] = joined(loadFirst<K>(from[i] + first), loadFirst<K>(from[i + 4] + first));
-        } else {
-            rows[i] = loadFirst<K>(from[i] + first);
-        }
-    }
-    turn<T>(rows);
-#pragma GCC unroll 4
-    for (int i = 0; i < K; ++i) {
-        to[first + i] = rows[i];
-    }
-}
-
-template <int K, class T>
-[[gnu::always_inline]] inline void storeSome(const Group<T> *from, int first, const Pointers<T> &to) {
-    std::array<Group<T>, 4> rows;
-#pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) {
-        rows[i] = from[first + std::min(i, K - 1)];
-    }
-    turn<T>(rows);
-#pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) {
-        if constexpr (groupSize<T> == 8) {
-            storeFirst<K>(to[i] + first, lowHalf(rows[i]));
-            storeFirst<K>(to[i + 4] + first, highHalf(rows[i]));
-        } else {
-            storeFirst<K>(to[i] + first, rows[i]);
-        }
-    }
-}
+using detail::loadSome;
+using detail::Pointers;
+using detail::storeSome;
 
 // A row of each object, by fours. The last of four or more elements go together with some that are done again.
 template <class T>
@@ -160,39 +113,71 @@ template <class T>
     }
 }
 
-// The rows of a group whose elements touch, one after the other.
+// Where the objects of a group, their rows and their elements start. Of an operand that moves by bytes; or, where a row
+// has element pointers of its own, of one that does so from object to object.
 template <class Element>
-class TouchingRows {
+class Places {
 public:
-    TouchingRows(const detail::GroupOperand<Element> &operand, std::ptrdiff_t object)
-        : rowStep(operand.addresses.step[1]), rows(operand.rows) {
+    Places(const detail::GroupOperand<Element> &operand, std::ptrdiff_t object)
+        : pointers(operand.addresses.movesByBytes() ? nullptr : operand.addresses.pointers),
+          pointerRow(operand.addresses.pointerStep[1]), pointerColumn(operand.addresses.pointerStep[2]),
+          rowStep(operand.addresses.step[1]), columnStep(operand.addresses.step[2]), rows(operand.rows) {
+        const Addresses<Element> &a = operand.addresses;
+        const std::ptrdiff_t step = a.step[0];
+        std::ptrdiff_t bytes = a.offset + object * step;
         for (int lane = 0; lane < lanes; ++lane) {
-            start[lane] = operand.addresses.at(object + lane, 0, 0);
+            offset[lane] = bytes;
+            bytes += step;
+        }
+        if (pointers != nullptr) {
+            return;
+        }
+        for (int lane = 0; lane < lanes; ++lane) {
+            start[lane] =
+                shifted(a.pointers != nullptr ? a.pointers[(object + lane) * a.pointerStep[0]] : a.base, offset[lane]);
         }
     }
 
+    bool movesByBytes() const { return pointers == nullptr; }
+
     Pointers<Element> row(std::ptrdiff_t i) const {
-        Pointers<Element> pointers;
-        for (int lane = 0; lane < lanes; ++lane) {
-            pointers[lane] = shifted(start[lane], i * rowStep);
+        Pointers<Element> to = {};
+        if (!movesByBytes()) {
+            return to;
         }
-        return pointers;
+        for (int lane = 0; lane < lanes; ++lane) {
+            to[lane] = shifted(start[lane], i * rowStep);
+        }
+        return to;
     }
 
     Pointers<Element> row(std::ptrdiff_t i, const int *rowOf) const {
-        Pointers<Element> pointers;
-        for (std::ptrdiff_t lane = 0; lane < lanes; ++lane) {
-            pointers[lane] = shifted(start[lane], rowOf[lane * rows + i] * rowStep);
+        Pointers<Element> to = {};
+        if (!movesByBytes()) {
+            return to;
         }
-        return pointers;
+        for (std::ptrdiff_t lane = 0; lane < lanes; ++lane) {
+            to[lane] = shifted(start[lane], rowOf[lane * rows + i] * rowStep);
+        }
+        return to;
+    }
+
+    Element *element(int lane, std::ptrdiff_t i, std::ptrdiff_t j) const {
+        return pointers != nullptr ? shifted(pointers[i * pointerRow + j * pointerColumn], offset[lane])
+                                   : shifted(start[lane], i * rowStep + j * columnStep);
     }
 
 private:
     static constexpr int lanes = fullLanes<std::remove_const_t<Element>>;
 
-    Pointers<Element> start;
+    Element *const *pointers;
+    std::ptrdiff_t pointerRow;
+    std::ptrdiff_t pointerColumn;
     std::ptrdiff_t rowStep;
+    std::ptrdiff_t columnStep;
     std::ptrdiff_t rows;
+    std::array<std::ptrdiff_t, lanes> offset;
+    Pointers<Element> start;
 };
 
 // Where a load by fours of a row may end without leaving it.
@@ -204,8 +189,8 @@ template <Part part, bool byIndex, class T>
 void loadGroup(const detail::GroupOperand<const T> &from, std::ptrdiff_t object, Group<T> *to, const int *rowOf) {
     const int rows = from.rows;
     const int columns = from.columns;
+    const Places<const T> source(from, object);
     if (from.access == Access::RowsTouch) {
-        const TouchingRows<const T> source(from, object);
         if (from.isDense && !byIndex && (part == Part::Whole || rows <= 6)) {
             loadRow<T>(source.row(0), rows * columns, to);
             return;
@@ -216,23 +201,33 @@ void loadGroup(const detail::GroupOperand<const T> &from, std::ptrdiff_t object,
         }
         return;
     }
-    const Addresses<const T> addresses = from.addresses;
     if (from.access == Access::ObjectsTouch && !byIndex) {
         for (int i = 0; i < rows; ++i) {
             for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-                to[i * columns + j] = Group<T>::load(addresses.at(object, i, j));
+                to[i * columns + j] = Group<T>::load(source.element(0, i, j));
             }
         }
         return;
     }
+    const auto rowOfLane = [&](int lane, int i) { return byIndex ? rowOf[lane * rows + i] : i; };
+    const auto gather = [&](const auto &element) __attribute__((always_inline)) {
+        return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
+            return Group<T>{typename Group<T>::Vector{*element(lane)...}};
+        }
+        (std::make_integer_sequence<int, groupSize<T>>());
+    };
     for (int i = 0; i < rows; ++i) {
+        const Pointers<const T> row = byIndex ? source.row(i, rowOf) : source.row(i);
         for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-            to[i * columns + j] = [&]<std::size_t... lane>(std::index_sequence<lane...>) {
-                const auto row = [&](std::size_t l) { return byIndex ? rowOf[static_cast<int>(l) * rows + i] : i; };
-                return Group<T>{
-                    typename Group<T>::Vector{*addresses.at(object + static_cast<int>(lane), row(lane), j)...}};
+            Group<T> &element = to[i * columns + j];
+            if (source.movesByBytes()) {
+                const std::ptrdiff_t bytes = j * from.addresses.step[2];
+                element = gather([&](int lane) __attribute__((always_inline)) { return shifted(row[lane], bytes); });
+            } else {
+                element = gather([&](int lane) __attribute__((always_inline)) {
+                    return source.element(lane, rowOfLane(lane, i), j);
+                });
             }
-            (std::make_index_sequence<groupSize<T>>());
         }
     }
 }
@@ -241,8 +236,8 @@ template <Part part, bool byIndex, class T>
 void storeGroup(const detail::GroupOperand<T> &to, std::ptrdiff_t object, const Group<T> *from, const int *rowOf) {
     const int rows = to.rows;
     const int columns = to.columns;
+    const Places<T> destination(to, object);
     if (to.access == Access::RowsTouch) {
-        const TouchingRows<T> destination(to, object);
         if (to.isDense && !byIndex && part == Part::Whole) {
             storeRow<T>(from, rows * columns, destination.row(0));
             return;
@@ -253,21 +248,25 @@ void storeGroup(const detail::GroupOperand<T> &to, std::ptrdiff_t object, const 
         }
         return;
     }
-    const Addresses<T> addresses = to.addresses;
     if (to.access == Access::ObjectsTouch && !byIndex) {
         for (int i = 0; i < rows; ++i) {
             for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-                from[i * columns + j].store(addresses.at(object, i, j));
+                from[i * columns + j].store(destination.element(0, i, j));
             }
         }
         return;
     }
     for (int i = 0; i < rows; ++i) {
+        const Pointers<T> row = byIndex ? destination.row(i, rowOf) : destination.row(i);
         for (int j = 0; j < lengthOf(part, i, columns); ++j) {
             std::array<T, groupSize<T>> elements;
             from[i * columns + j].store(elements.data());
+            const std::ptrdiff_t bytes = j * to.addresses.step[2];
+#pragma GCC unroll 8
             for (int lane = 0; lane < groupSize<T>; ++lane) {
-                *addresses.at(object + lane, byIndex ? rowOf[lane * rows + i] : i, j) = elements[lane];
+                *(destination.movesByBytes() ? shifted(row[lane], bytes)
+                                             : destination.element(lane, byIndex ? rowOf[lane * rows + i] : i, j)) =
+                    elements[lane];
             }
         }
     }
@@ -276,32 +275,32 @@ void storeGroup(const detail::GroupOperand<T> &to, std::ptrdiff_t object, const 
 } // namespace
 
 template <class T>
-void GroupSource<T>::load(std::ptrdiff_t object, Group<T> *to) const {
+void GroupSource<T>::loadAny(std::ptrdiff_t object, Group<T> *to) const {
     loadGroup<Part::Whole, false>(from, object, to, nullptr);
 }
 
 template <class T>
-void GroupSource<T>::load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
+void GroupSource<T>::loadAny(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
     loadGroup<Part::Whole, true>(from, object, to, rowOf);
 }
 
 template <class T>
-void GroupSource<T>::loadLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
+void GroupSource<T>::loadAnyLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
     loadGroup<Part::LowerTriangle, false>(from, object, to, nullptr);
 }
 
 template <class T>
-void GroupDestination<T>::store(std::ptrdiff_t object, const Group<T> *from) const {
+void GroupDestination<T>::storeAny(std::ptrdiff_t object, const Group<T> *from) const {
     storeGroup<Part::Whole, false>(to, object, from, nullptr);
 }
 
 template <class T>
-void GroupDestination<T>::store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
+void GroupDestination<T>::storeAny(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
     storeGroup<Part::Whole, true>(to, object, from, rowOf);
 }
 
 template <class T>
-void GroupDestination<T>::storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
+void GroupDestination<T>::storeAnyLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
     storeGroup<Part::LowerTriangle, false>(to, object, from, nullptr);
 }
 

@@ -40,7 +40,7 @@ bool invertGroup(const GroupSource<T> &source, const GroupDestination<T> &destin
     const int n = Order != 0 ? Order : order;
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
-    source.load(object, a);
+    source.template load<Order, Order>(object, a);
     LaneRows<T> rows(a, rowNumbers, n);
     if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
         return false;
@@ -58,7 +58,7 @@ bool invertGroup(const GroupSource<T> &source, const GroupDestination<T> &destin
             overRange<Order>(
                 0, n, [&](int i) __attribute__((always_inline)) { inverse[i * n + column] = x[i]; });
         });
-    destination.store(object, inverse);
+    destination.template store<Order, Order>(object, inverse);
     return true;
 }
 
@@ -89,6 +89,17 @@ private:
     Group<T> *first;
 };
 
+template <class T>
+inline void storeFirstLanes(Group<T> lanes, int count, T *to) {
+    if (count == groupSize<T>) {
+        lanes.store(to);
+        return;
+    }
+    T elements[groupSize<T>];
+    lanes.store(elements);
+    std::copy_n(elements, count, to);
+}
+
 // One matrix, columns of the identity in lanes.
 template <class T, int Order>
 LxpStatus invertOne(const Addresses<const T> &source, const Addresses<T> &destination, int order,
@@ -102,6 +113,7 @@ LxpStatus invertOne(const Addresses<const T> &source, const Addresses<T> &destin
     if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
         return lxpStatusSingularErr;
     }
+    const bool rowsTouch = destination.rowsTouch();
     for (int column = 0; column < n; column += groupSize<T>) {
         const int columns = std::min(n - column, groupSize<T>);
         for (int i = 0; i < n; ++i) {
@@ -113,6 +125,10 @@ LxpStatus invertOne(const Addresses<const T> &source, const Addresses<T> &destin
         }
         substitute<Order, Group<T>>(rows, x, n);
         for (int i = 0; i < n; ++i) {
+            if (rowsTouch) {
+                storeFirstLanes(x[i], columns, destination.at(0, i, column));
+                continue;
+            }
             T elements[groupSize<T>];
             x[i].store(elements);
             for (int lane = 0; lane < columns; ++lane) {

@@ -55,13 +55,13 @@ bool decomposeGroup(const GroupSource<T> &source, const GroupDestination<T> &des
     const int n = Order != 0 ? Order : order;
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
-    source.load(object, a);
+    source.template load<Order, Order>(object, a);
     LaneRows<T> rows(a, rowNumbers, n);
     if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
         return false;
     }
     storeIndex<Order, T>(rowNumbers, n, index);
-    destination.store(object, a, index);
+    destination.template store<Order, Order>(object, a, index);
     return true;
 }
 
@@ -76,9 +76,7 @@ LxpStatus decomposeOne(const Addresses<const T> &source, int *index, const Addre
     const int done = eliminate<Order, SmallOrderRules>(rows, Order);
     for (int k = 0; k < done; ++k) {
         index[k] = rowNumbers[k];
-        for (int j = 0; j < Order; ++j) {
-            *destination.at(0, rowNumbers[k], j) = rows(k, j);
-        }
+        copyMatrix<Part::Whole>(plainMatrix<const T>(&rows(k, 0), Order), destination.from(0, rowNumbers[k]), 1, Order);
     }
     return done < Order ? lxpStatusSingularErr : lxpStatusOk;
 }
@@ -159,11 +157,11 @@ void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right,
     const int n = Order != 0 ? Order : order;
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     Group<T> x[Order != 0 ? Order : largestCopied];
-    factors.load(object, a, index);
-    right.load(object, x, index);
+    factors.template load<Order, Order>(object, a, index);
+    right.template load<Order, 1>(object, x, index);
     const TouchingMatrix<Group<T>> matrix = {a, n};
     substitute<Order, Group<T>>(matrix, x, n);
-    solution.store(object, x);
+    solution.template store<Order != 0, Order>(object, x);
 }
 
 // Right-hand sides in lanes; the factors, in pivot order, are those of all of them.
@@ -173,11 +171,11 @@ void substituteInto(const Factors &factors, const GroupSource<T> &right, const G
     const int n = Order != 0 ? Order : order;
     Group<T> b[Order != 0 ? Order : largestGroup];
     Group<T> x[Order != 0 ? Order : largestGroup];
-    right.load(object, b);
+    right.template load<Order != 0, Order>(object, b);
     overRange<Order>(
         0, n, [&](int i) __attribute__((always_inline)) { x[i] = b[index[i]]; });
     substitute<Order, Group<T>>(factors, x, n);
-    solution.store(object, x);
+    solution.template store<Order != 0, Order>(object, x);
 }
 
 template <class T, int Order>

@@ -57,6 +57,20 @@ constexpr int lengthOf(Part part, int row, int columns) {
 // Object 0 of one operand to that of another.
 template <Part part, class T>
 void copyMatrix(const Addresses<const T> &source, const Addresses<T> &destination, int rows, int columns) {
+    if (source.movesByBytes() && destination.movesByBytes()) {
+        const T *from = source.at(0, 0, 0);
+        T *to = destination.at(0, 0, 0);
+        const std::ptrdiff_t fromStep = source.step[2];
+        const std::ptrdiff_t toStep = destination.step[2];
+        for (int i = 0; i < rows; ++i) {
+            for (int j = 0; j < lengthOf(part, i, columns); ++j) {
+                *shifted(to, j * toStep) = *shifted(from, j * fromStep);
+            }
+            from = shifted(from, source.step[1]);
+            to = shifted(to, destination.step[1]);
+        }
+        return;
+    }
     for (int i = 0; i < rows; ++i) {
         for (int j = 0; j < lengthOf(part, i, columns); ++j) {
             *destination.at(0, i, j) = *source.at(0, i, j);

@@ -152,12 +152,12 @@ template <class T, int Order>
 bool decomposeGroup(const GroupSource<T> &source, const GroupDestination<T> &destination, Size size,
                     std::ptrdiff_t object) {
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
-    source.load(object, a);
+    source.template load<Order, Order>(object, a);
     const TouchingMatrix<Group<T>> matrix = {a, sizeOf<Order>(size).width};
     if (reflect<Order, Group<T>>(matrix, size) < size.reflectors()) {
         return false;
     }
-    destination.store(object, a);
+    destination.template store<Order, Order>(object, a);
     return true;
 }
 
@@ -255,14 +255,14 @@ void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right,
                      Size size, std::ptrdiff_t object) {
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     Group<T> x[Order != 0 ? Order : largestGroup];
-    factors.load(object, a);
-    right.load(object, x);
+    factors.template load<Order, Order>(object, a);
+    right.template load<Order != 0, Order>(object, x);
     const TouchingMatrix<Group<T>> matrix = {a, sizeOf<Order>(size).width};
     const auto scale = [&](int k) __attribute__((always_inline)) {
         return scaleOf<Order, Group<T>>(matrix, k, sizeOf<Order>(size).height);
     };
     substitute<Order, Group<T>>(matrix, x, size, scale);
-    solution.store(object, x);
+    solution.template store<Order != 0, Order>(object, x);
 }
 
 // Right-hand sides in lanes, the same factors for all of them.
@@ -270,12 +270,12 @@ template <class T, int Order, class Matrix>
 void substituteInto(const Matrix &factors, const T *scales, const GroupSource<T> &right,
                     const GroupDestination<T> &solution, Size size, std::ptrdiff_t object) {
     Group<T> x[Order != 0 ? Order : largestGroup];
-    right.load(object, x);
+    right.template load<Order != 0, Order>(object, x);
     const auto scale = [&](int k) __attribute__((always_inline)) {
         return scales[k];
     };
     substitute<Order, Group<T>>(factors, x, size, scale);
-    solution.store(object, x);
+    solution.template store<Order != 0, Order>(object, x);
 }
 
 template <class T, int Order>

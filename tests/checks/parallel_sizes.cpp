@@ -70,6 +70,9 @@ std::vector<ParallelCase> casesAroundThreshold(const Model &model, bool isContig
     int largestSerial = INT_MIN;
     int smallestParallel = INT_MAX;
     for (const Shape &shape : shapesUpTo(model.dimensions(), model.dimensions() == 1 ? 200 : 16)) {
+        if (!model.allows(shape)) {
+            continue;
+        }
         const int count = firstParallelCount(model, shape, isContiguous);
         const int measure = model.parallel->measure(shape, count);
         if (measure < smallestParallel) {

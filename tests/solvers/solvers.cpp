@@ -135,6 +135,26 @@ std::uint64_t withMagnitude(ElementType type, std::uint64_t bits, int exponent, 
     return sign | (bias + exponent) << fraction | (bits & ((std::uint64_t(1) << fraction) - 1));
 }
 
+/// A number of the same magnitude, all else being as good as random: arbitrary values that follow from one another make
+/// singular matrices now and then.
+std::uint64_t scrambled(ElementType type, std::uint64_t bits, int scale) {
+    const int fraction = type == Float32 ? 23 : 52;
+    const std::uint64_t mask = (std::uint64_t(1) << fraction) - 1;
+    std::uint64_t mixed = (bits ^ bits >> 17) * 0x9e3779b97f4a7c15u;
+    mixed = (mixed ^ mixed >> 29) * 0xbf58476d1ce4e5b9u;
+    mixed ^= mixed >> 32;
+    const std::uint64_t sign = (mixed >> 60 & 1) << (type == Float32 ? 31 : 63);
+    const std::uint64_t exponent = bits >> fraction & (type == Float32 ? 0xff : 0x7ff);
+    return sign | (exponent + scale) << fraction | (mixed & mask);
+}
+
+/// Sources of functions that fail with singular matrices.
+void makeRegular(Model &model, int scale = 0) {
+    model.adjust = [type = model.type, scale](const ElementPlace &place, std::uint64_t bits) {
+        return place.operand == 0 ? scrambled(type, bits, scale) : bits;
+    };
+}
+
 // --- Results ---
 
 template <class T>
@@ -590,6 +610,7 @@ Model describeLUDecomp(const ExportName &name) {
                       matrixOf("dst", model.hasCount, 0, 0, true)};
     addSizes(model);
     model.formula = formula(LUDecomposition());
+    makeRegular(model);
     if (model.hasCount) {
         model.parallel = ruleOf(squares, 1000, 1000);
     }
@@ -652,6 +673,7 @@ Model describeQRDecomp(const ExportName &name) {
     model.operands = {matrixOf("src", model.hasCount, 0, 1), scratchOf(0), matrixOf("dst", model.hasCount, 0, 1, true)};
     addSizes(model);
     model.formula = formula(QRDecomposition());
+    makeRegular(model);
     if (model.hasCount) {
         const int limit = name.layout == Strided ? 2800 : 1800;
         model.parallel = ruleOf(
@@ -688,11 +710,7 @@ Model describeDet(const ExportName &name) {
                       {"dst", Kind::Results, model.hasCount, true, Operand::one, Operand::one}};
     model.sizes = {{"widthHeight", 0, 0}};
     model.formula = formula(Determinant());
-    // Pivots around 1, so that their product stays in range.
-    model.adjust = [type = name.type](const ElementPlace &place, std::uint64_t bits) {
-        const int fraction = type == Float32 ? 23 : 52;
-        return place.operand == 0 ? bits - (std::uint64_t(4) << fraction) : bits;
-    };
+    makeRegular(model, -4); // pivots around 1, so that their product stays in range
     if (model.hasCount) {
         model.parallel = ruleOf(squares, 8000, 8000);
     }
@@ -704,6 +722,7 @@ Model describeInvert(const ExportName &name) {
     model.operands = {matrixOf("src", model.hasCount, 0, 0), matrixOf("dst", model.hasCount, 0, 0, true)};
     addSizes(model);
     model.formula = formula(Inversion());
+    makeRegular(model);
     if (model.hasCount) {
         model.parallel = ruleOf(squares, 2000, 2000);
     }

@@ -185,6 +185,9 @@ struct Model : ExportName {
     /// A size that may not be larger than another: their positions in the shape.
     std::optional<std::pair<int, int>> notLarger = {};
 
+    /// Whether the sizes of a shape fit each other.
+    bool allows(const Shape &shape) const { return !notLarger || shape[notLarger->first] <= shape[notLarger->second]; }
+
     /// How many sizes a shape has.
     std::size_t dimensions() const { return axes->all.front().size(); }
 
