@@ -11,6 +11,7 @@ std::vector<Case> allCases() {
     appendMoving(cases);
     appendReductions(cases);
     appendGraphics(cases);
+    appendSolvers(cases);
     return cases;
 }
 
