@@ -34,6 +34,9 @@ struct Case {
     // and the bits are compared. How far they may be apart, in terms of the largest result.
     std::size_t roundedElementSize = 0;
     double tolerance = 1e-4;
+
+    // Whether peers leave the same results: not decompositions, of which each has a form of its own.
+    bool comparesResults = true;
 };
 
 // The list of all cases. A family appends its own.
@@ -44,5 +47,6 @@ void appendProducts(std::vector<Case> &cases);
 void appendReductions(std::vector<Case> &cases);
 void appendGraphics(std::vector<Case> &cases);
 void appendEigenproblems(std::vector<Case> &cases);
+void appendSolvers(std::vector<Case> &cases);
 
 } // namespace lxpm::bench

@@ -13,6 +13,7 @@ std::vector<Case> allCases() {
     appendReductions(cases);
     appendGraphics(cases);
     appendEigenproblems(cases);
+    appendSolvers(cases);
     return cases;
 }
 

@@ -130,7 +130,7 @@ template <class T, int Order>
 LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
     const auto makeGroups = [&] {
-        return [n, source = GroupSource<T>(call.source, n, n),
+        return [&, source = GroupSource<T>(call.source, n, n),
                 destination = GroupDestination<T>(call.destination, n, n)](std::ptrdiff_t object) {
             return decomposeGroup<T, Order>(source, destination, n, object);
         };

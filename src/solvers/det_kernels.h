@@ -133,7 +133,7 @@ template <class T, int Order>
 LxpStatus determinantsOf(const Determinants<T> &call, T *copy, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
     const auto makeGroups = [&] {
-        return [&, n, source = GroupSource<T>(call.source, n, n)](std::ptrdiff_t object) {
+        return [&, source = GroupSource<T>(call.source, n, n)](std::ptrdiff_t object) {
             return determinantsOfGroup<T, Order>(source, n, call.results, object);
         };
     };

@@ -143,7 +143,7 @@ template <class T, int Order>
 LxpStatus invertObjects(const Inversion<T> &call, const Workspace<T> &workspace, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
     const auto makeGroups = [&] {
-        return [n, source = GroupSource<T>(call.source, n, n),
+        return [&, source = GroupSource<T>(call.source, n, n),
                 destination = GroupDestination<T>(call.destination, n, n)](std::ptrdiff_t object) {
             return invertGroup<T, Order>(source, destination, n, object);
         };

@@ -197,7 +197,7 @@ template <class T, int Order>
 LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const Size size = call.size;
     const auto makeGroups = [&] {
-        return [size, source = GroupSource<T>(call.source, size.height, size.width),
+        return [&, source = GroupSource<T>(call.source, size.height, size.width),
                 destination = GroupDestination<T>(call.destination, size.height, size.width)](std::ptrdiff_t object) {
             return decomposeGroup<T, Order>(source, destination, size, object);
         };
