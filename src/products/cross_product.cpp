@@ -107,7 +107,8 @@ template <class T, Writing writing>
 template <class T, Reading first, Reading second, Writing writing>
 std::ptrdiff_t crossGroups(const CrossOperands<T> &shared, std::ptrdiff_t objects) {
     const CrossOperands<T> operands = shared;
-    const auto group = [&]<bool readsOn>(std::ptrdiff_t object, std::bool_constant<readsOn>) __attribute__((always_inline)) {
+    const auto group = [&]<bool readsOn>(std::ptrdiff_t object, std::bool_constant<readsOn>)
+        __attribute__((always_inline)) {
         const GroupReader<T, first> a(operands.first, object);
         const GroupReader<T, second> b(operands.second, object);
         writeGroup<T, writing>(operands.dst, object,

@@ -142,28 +142,29 @@ private:
     template <int Order, bool isDense>
     static void byOrder(const Matrices &shared) {
         const Matrices matrices = shared; // a copy that no store below can reach
-        forEachPair(matrices, [](const Pair &pair) __attribute__((always_inline)) {
-            if constexpr (Order == 3 && isDense) {
-                denseOrder3(pair.src, pair.dst);
-            } else if constexpr (Order == 3) {
-                order3(pair);
-            } else if constexpr (Order >= rows && Order % rows == 0) {
+        forEachPair(
+            matrices, [](const Pair &pair) __attribute__((always_inline)) {
+                if constexpr (Order == 3 && isDense) {
+                    denseOrder3(pair.src, pair.dst);
+                } else if constexpr (Order == 3) {
+                    order3(pair);
+                } else if constexpr (Order >= rows && Order % rows == 0) {
 #pragma GCC unroll 2
-                for (int row = 0; row < Order; row += rows) {
+                    for (int row = 0; row < Order; row += rows) {
 #pragma GCC unroll 2
-                    for (int column = 0; column < Order; column += 4) {
-                        block(pair, row, column);
+                        for (int column = 0; column < Order; column += 4) {
+                            block(pair, row, column);
+                        }
+                    }
+                } else {
+                    smallBlock(pair, 0, 0);
+                    if constexpr (Order > side) {
+                        smallBlock(pair, Order - side, 0);
+                        smallBlock<2 * side - Order>(pair, 0, Order - side);
+                        smallBlock<2 * side - Order>(pair, Order - side, Order - side);
                     }
                 }
-            } else {
-                smallBlock(pair, 0, 0);
-                if constexpr (Order > side) {
-                    smallBlock(pair, Order - side, 0);
-                    smallBlock<2 * side - Order>(pair, 0, Order - side);
-                    smallBlock<2 * side - Order>(pair, Order - side, Order - side);
-                }
-            }
-        });
+            });
     }
 
     // 0 1 2 3 | 4 5 6 7 | 8 becomes 0 3 6 1 | 4 7 2 5 | 8: elements 1 and 3 of the two registers change places, and the
@@ -190,29 +191,36 @@ private:
     // Fewer rows than a block has.
     static void bySmallBlocks(const Matrices &shared) {
         const Matrices m = shared;
-        forEachPair(m, [&](const Pair &pair) __attribute__((always_inline)) {
-            forEachStep(m.height, side, [&](std::ptrdiff_t row) __attribute__((always_inline)) {
-                forEachStep(m.width, side,
-                            [&](std::ptrdiff_t column) __attribute__((always_inline)) { smallBlock(pair, row, column); });
+        forEachPair(
+            m, [&](const Pair &pair) __attribute__((always_inline)) {
+                forEachStep(
+                    m.height, side, [&](std::ptrdiff_t row) __attribute__((always_inline)) {
+                        forEachStep(
+                            m.width, side, [&](std::ptrdiff_t column) __attribute__((always_inline)) {
+                                smallBlock(pair, row, column);
+                            });
+                    });
             });
-        });
     }
 
     // A strip of columns as wide as a cache line at a time, so that each line of the source is needed once. The rows
     // of large matrices are too far apart for the processor to see what comes next.
     static void byBlocks(const Matrices &shared) {
         const Matrices m = shared;
-        forEachPair(m, [&](const Pair &pair) __attribute__((always_inline)) {
-            for (std::ptrdiff_t strip = 0; strip < m.width; strip += line) {
-                const std::ptrdiff_t first = std::min(strip, m.width - side);
-                const std::ptrdiff_t columns = std::min(line, m.width - first);
-                forEachStep(m.height, rows, [&](std::ptrdiff_t row) __attribute__((always_inline)) {
-                    forEachStep(columns, side, [&](std::ptrdiff_t column) __attribute__((always_inline)) {
-                        block(pair, row, first + column);
-                    });
-                });
-            }
-        });
+        forEachPair(
+            m, [&](const Pair &pair) __attribute__((always_inline)) {
+                for (std::ptrdiff_t strip = 0; strip < m.width; strip += line) {
+                    const std::ptrdiff_t first = std::min(strip, m.width - side);
+                    const std::ptrdiff_t columns = std::min(line, m.width - first);
+                    forEachStep(
+                        m.height, rows, [&](std::ptrdiff_t row) __attribute__((always_inline)) {
+                            forEachStep(
+                                columns, side, [&](std::ptrdiff_t column) __attribute__((always_inline)) {
+                                    block(pair, row, first + column);
+                                });
+                        });
+                }
+            });
     }
 
     // Elsewhere.
