@@ -227,12 +227,13 @@ long double backwardError(const std::vector<T> &a, const T *x, const T *b, int n
     return worst;
 }
 
+constexpr int testedOrders[] = {1, 2, 3, 4, 5, 6, 7, 8, 11, 16, 17, 24};
+
 template <class T>
 class Solvers : public testing::Test {
 protected:
     Solvers() { setThreadCount(1); }
     static constexpr T epsilon = std::numeric_limits<T>::epsilon();
-    static constexpr int orders[] = {1, 2, 3, 4, 5, 6, 7, 8, 11, 16, 17, 24};
 };
 using Types = testing::Types<float, double>;
 TYPED_TEST_SUITE(Solvers, Types);
@@ -241,7 +242,7 @@ TYPED_TEST_SUITE(Solvers, Types);
 
 TYPED_TEST(Solvers, FactorsMultiplyToTheMatrix) {
     using T = TypeParam;
-    for (const int n : this->orders) {
+    for (const int n : testedOrders) {
         for (const auto &[name, numbers] : collection(n)) {
             const std::vector<T> a = as<T>(numbers);
             std::vector<T> factors(n * n);
@@ -347,7 +348,7 @@ TYPED_TEST(Solvers, TallSystemsAreSolvedInTheLeastSquaresSense) {
 
 TYPED_TEST(Solvers, SingularityIsTestedToTheLastBit) {
     using T = TypeParam;
-    for (const int n : this->orders) {
+    for (const int n : testedOrders) {
         const bool own = n >= 3 && n <= 6;
         const T bound = own ? 2 * std::numeric_limits<T>::min() : this->epsilon;
         // The smallest that passes and the largest that does not.
@@ -385,7 +386,7 @@ TYPED_TEST(Solvers, SmallPivotsPassInSmallOrdersOnly) {
 
 TYPED_TEST(Solvers, PositivityIsTestedAgainstZero) {
     using T = TypeParam;
-    for (const int n : this->orders) {
+    for (const int n : testedOrders) {
         for (int k = 0; k < n; ++k) {
             std::vector<T> a = diagonal<T>(n);
             std::vector<T> dst(n * n);
@@ -539,7 +540,7 @@ TYPED_TEST(Solvers, OrderOneIsItsOwnFactor) {
 
 TYPED_TEST(Solvers, OfEqualCandidatesTheFirstIsChosen) {
     using T = TypeParam;
-    for (const int n : this->orders) {
+    for (const int n : testedOrders) {
         // Every column has candidates of one magnitude, the sign of the later ones reversed.
         std::vector<T> a(n * n);
         for (int i = 0; i < n; ++i) {
@@ -592,7 +593,7 @@ TYPED_TEST(Solvers, AZeroOnTheDiagonalIsDividedBy) {
 
 TYPED_TEST(Solvers, IdentityIsItsOwnFactor) {
     using T = TypeParam;
-    for (const int n : this->orders) {
+    for (const int n : testedOrders) {
         const std::vector<T> a = diagonal<T>(n);
         std::vector<T> dst(n * n);
         ASSERT_EQ(factorCholesky(a.data(), nullptr, dst.data(), n), lxpStatusOk);
@@ -716,7 +717,7 @@ TYPED_TEST(Solvers, ThreadsShareOneBuffer) {
 
 TYPED_TEST(Solvers, DeterminantsOfPermutationsAreTheirSigns) {
     using T = TypeParam;
-    for (const int n : this->orders) {
+    for (const int n : testedOrders) {
         std::vector<int> rows(n);
         std::iota(rows.begin(), rows.end(), 0);
         std::mt19937 generator(n);
@@ -737,7 +738,7 @@ TYPED_TEST(Solvers, DeterminantsOfPermutationsAreTheirSigns) {
 
 TYPED_TEST(Solvers, DeterminantsOfSingularMatricesAreZero) {
     using T = TypeParam;
-    for (const int n : this->orders) {
+    for (const int n : testedOrders) {
         std::vector<T> a = diagonal<T>(n, 2);
         a[(n / 2) * n + n / 2] = 0;
         EXPECT_EQ(determinant(a, n), 0) << n;
@@ -759,7 +760,7 @@ TYPED_TEST(Solvers, DeterminantsOfSmallPivotsAreNotLost) {
     using T = TypeParam;
     // Far below the bound at which a decomposition gives up.
     const T small = sizeof(T) == sizeof(float) ? T(0x1p-30) : T(0x1p-60);
-    for (const int n : this->orders) {
+    for (const int n : testedOrders) {
         std::vector<T> a = diagonal<T>(n);
         a[0] = small;
         EXPECT_EQ(determinant(a, n), small) << n;
@@ -768,7 +769,7 @@ TYPED_TEST(Solvers, DeterminantsOfSmallPivotsAreNotLost) {
 
 TYPED_TEST(Solvers, InversesAreSolutionsForTheIdentity) {
     using T = TypeParam;
-    for (const int n : this->orders) {
+    for (const int n : testedOrders) {
         const std::vector<T> a = randomNumbers<T>(n * n, 9 + n);
         std::vector<T> factors(n * n);
         std::vector<int> index(n);
