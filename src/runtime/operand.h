@@ -177,15 +177,16 @@ public:
 
     // A single object, in rows and columns of the operation.
     constexpr auto object([[maybe_unused]] int height = 1, [[maybe_unused]] int width = 1) const requires(!kind.array) {
+        constexpr bool transposed = kind.shape == Shape::Transposed;
         if constexpr (form == Form::Value) {
             return ConstantObject<Value>{lead};
         } else if constexpr (form == Form::ElementPointers) {
-            const PointedObject<Element> stored = {lead, offset(), width, 1};
-            return kind.shape == Shape::Transposed ? PointedObject<Element>{lead, offset(), 1, height} : stored;
+            const PointedObject<Element> stored = {lead, offset(), transposed ? height : width, 1};
+            return transposed ? stored.transposed() : stored;
         } else {
             const StridedObject<Element> stored = {lead, stride(hasRowStride, rowStrideAt),
                                                    stride(hasElemStride, elemStrideAt)};
-            return kind.shape == Shape::Transposed ? stored.transposed() : stored;
+            return transposed ? stored.transposed() : stored;
         }
     }
 
