@@ -37,9 +37,8 @@ template <class T>
     const std::size_t elements = bufferElements(static_cast<std::size_t>(problem.order), problem.wantsVectors());
     const std::size_t bytes = isSolvedOnStack(problem.order) ? 0 : elements * sizeof(T);
     return overShares(parallel, count, bytes, [&](const Share &share) {
-        T *const own = static_cast<T *>(share.scratch);
         const auto solve = problem.wantsVectors() ? solveGeneral<true, T> : solveGeneral<false, T>;
-        return solve(problem, share.first, share.count, own != nullptr ? own : buffer);
+        return solve(problem, share.first, share.count, share.scratchOr(buffer));
     });
 }
 

@@ -3,7 +3,7 @@
 #pragma once
 
 // The general eigenproblem over a number: reduction to Hessenberg form by reflectors, the double-shift QR iteration to
-// real Schur form, eigenvectors by back-substitution. See eigen/numbers.h for what a number may be.
+// real Schur form, eigenvectors by back-substitution. See runtime/numbers.h for what a number may be.
 //
 // Methods: J. G. F. Francis, The QR Transformation (Computer Journal 4, 1961-62); the forms of the steps, of the shifts
 // and of the back-substitution are those of J. H. Wilkinson and C. Reinsch, Handbook for Automatic Computation II
@@ -12,7 +12,9 @@
 // Order: an int, or an std::integral_constant where it is known beforehand. Matrices are dense, row by row. The
 // orthogonal matrix z of a Schur form a = z t z' is kept transposed, column by column.
 
-#include "eigen/numbers.h"
+#include "eigen/step_masks.h"
+#include "eigen/twice.h"
+#include "runtime/numbers.h"
 
 #include <bit>
 #include <cstdint>

@@ -3,7 +3,7 @@
 #pragma once
 
 // The symmetric eigenproblem over a number: Householder reduction to tridiagonal form, then the implicitly shifted QL
-// iteration. See runtime/lanes.h and eigen/numbers.h for what a number may be.
+// iteration. See runtime/numbers.h for what a number may be.
 //
 // Methods: B. N. Parlett, The Symmetric Eigenvalue Problem; the iteration is the implicit form of A. Dubrulle,
 // R. S. Martin and J. H. Wilkinson (Numer. Math. 12, 1968).
@@ -11,7 +11,9 @@
 // Order: an int, or an std::integral_constant where it is known beforehand. The matrix is dense, row by row; nothing
 // below its diagonal is read.
 
-#include "eigen/numbers.h"
+#include "eigen/step_masks.h"
+#include "eigen/twice.h"
+#include "runtime/numbers.h"
 
 #include <limits>
 #include <utility>

@@ -7,6 +7,7 @@
 #include "graphics/formulas.h"
 #include "graphics/graphics.h"
 #include "graphics/transform_arrays.h"
+#include "runtime/numbers.h"
 
 #include <type_traits>
 
@@ -122,15 +123,6 @@ private:
     float extent_[4];
 };
 
-template <class V>
-V constant(float value) {
-    if constexpr (std::is_same_v<V, float>) {
-        return value;
-    } else {
-        return V::splat(value);
-    }
-}
-
 // From the viewport back to coordinates as a projection leaves them.
 class Normalisation {
 public:
@@ -159,9 +151,9 @@ public:
 private:
     template <class V>
     std::array<V, 3> normalise(const std::array<V, 3> &v) const {
-        return {(constant<V>(2) * v[0]) / constant<V>(width_) - constant<V>(1),
-                constant<V>(1) + (constant<V>(-2) * v[1]) / constant<V>(height_),
-                (v[2] - constant<V>(minZ_)) / constant<V>(depth_)};
+        return {(constant<V>(2) * v[0]) / number<V>(width_) - constant<V>(1),
+                constant<V>(1) + (constant<V>(-2) * v[1]) / number<V>(height_),
+                (v[2] - number<V>(minZ_)) / number<V>(depth_)};
     }
 
     float width_;

@@ -34,6 +34,18 @@ using MaskOf = typename NumberOf<V>::Mask;
 template <class V>
 inline constexpr bool isSingle = NumberOf<V>::lanes == 1;
 
+// Clang moves signs through products and quotients, which changes their bits unless rounding is to the nearest. It does
+// not where it cannot see the sign.
+template <class V>
+inline V ofUnknownSign(V x) {
+    if constexpr (isSingle<V>) {
+        asm("" : "+x"(x));
+    } else {
+        asm("" : "+x"(x.vector));
+    }
+    return x;
+}
+
 #define LXPM_ON_ELEMENTS(T)                                                                                            \
     inline bool isLess(T a, T b) {                                                                                     \
         return a < b;                                                                                                  \
@@ -48,7 +60,7 @@ inline constexpr bool isSingle = NumberOf<V>::lanes == 1;
         return std::fabs(x);                                                                                           \
     }                                                                                                                  \
     inline T negated(T x) {                                                                                            \
-        return -x;                                                                                                     \
+        return ofUnknownSign(-ofUnknownSign(x));                                                                       \
     }                                                                                                                  \
     inline T choose(bool mask, T a, T b) {                                                                             \
         return mask ? a : b;                                                                                           \
@@ -62,6 +74,12 @@ inline bool any(bool mask) {
 }
 inline bool all(bool mask) {
     return mask;
+}
+inline bool both(bool a, bool b) {
+    return a && b;
+}
+inline bool either(bool a, bool b) {
+    return a || b;
 }
 inline bool without(bool mask, bool others) {
     return mask && !others;
@@ -102,7 +120,7 @@ using Mask64 = MaskOf<Lanes64>;
         return {_mm256_andnot_##ps(Number::splat(-0.0).vector, x.vector)};                                             \
     }                                                                                                                  \
     inline Number negated(Number x) {                                                                                  \
-        return {_mm256_xor_##ps(Number::splat(-0.0).vector, x.vector)};                                                \
+        return ofUnknownSign(Number{_mm256_xor_##ps(Number::splat(-0.0).vector, ofUnknownSign(x).vector)});            \
     }                                                                                                                  \
     inline bool any(Mask mask) {                                                                                       \
         return _mm256_movemask_##ps(mask.bits) != 0;                                                                   \
@@ -110,31 +128,21 @@ using Mask64 = MaskOf<Lanes64>;
     inline bool all(Mask mask) {                                                                                       \
         return _mm256_movemask_##ps(mask.bits) == (1 << NumberOf<Number>::lanes) - 1;                                  \
     }                                                                                                                  \
-    inline unsigned lanesOf(Mask mask) {                                                                               \
-        return static_cast<unsigned>(_mm256_movemask_##ps(mask.bits));                                                 \
-    }                                                                                                                  \
     inline Mask without(Mask mask, Mask others) {                                                                      \
         return {_mm256_andnot_##ps(others.bits, mask.bits)};                                                           \
     }                                                                                                                  \
-    inline Mask operator&(Mask a, Mask b) {                                                                            \
+    inline Mask both(Mask a, Mask b) {                                                                                 \
         return {_mm256_and_##ps(a.bits, b.bits)};                                                                      \
     }                                                                                                                  \
-    inline Mask operator|(Mask a, Mask b) {                                                                            \
+    inline Mask either(Mask a, Mask b) {                                                                               \
         return {_mm256_or_##ps(a.bits, b.bits)};                                                                       \
     }
 LXPM_ON_LANES(Lanes32, Mask32, ps)
 LXPM_ON_LANES(Lanes64, Mask64, pd)
 #undef LXPM_ON_LANES
 
-// GCC takes the intrinsic apart into a choice by the sign of integers, for which AVX has no instruction.
-#ifdef __clang__
-inline Lanes32 choose(Mask32 mask, Lanes32 a, Lanes32 b) {
-    return {_mm256_blendv_ps(b.vector, a.vector, mask.bits)};
-}
-inline Lanes64 choose(Mask64 mask, Lanes64 a, Lanes64 b) {
-    return {_mm256_blendv_pd(b.vector, a.vector, mask.bits)};
-}
-#else
+// Not the intrinsics: GCC takes them apart into a choice by the sign of integers, for which AVX has no instruction, and
+// Clang divides first and chooses between the quotients.
 inline Lanes32 choose(Mask32 mask, Lanes32 a, Lanes32 b) {
     Lanes32 chosen;
     asm("vblendvps %3, %2, %1, %0" : "=x"(chosen.vector) : "x"(b.vector), "x"(a.vector), "x"(mask.bits));
@@ -145,16 +153,16 @@ inline Lanes64 choose(Mask64 mask, Lanes64 a, Lanes64 b) {
     asm("vblendvpd %3, %2, %1, %0" : "=x"(chosen.vector) : "x"(b.vector), "x"(a.vector), "x"(mask.bits));
     return chosen;
 }
-#endif
 
 // --- Of both ---
 
 template <class V>
 inline V constant(double value) {
     if constexpr (isSingle<V>) {
-        return static_cast<V>(value);
+        return value < 0 ? ofUnknownSign(static_cast<V>(value)) : static_cast<V>(value);
     } else {
-        return V::splat(static_cast<ElementOf<V>>(value));
+        const auto element = static_cast<ElementOf<V>>(value);
+        return V::splat(value < 0 ? ofUnknownSign(element) : element);
     }
 }
 
@@ -181,6 +189,12 @@ inline MaskOf<V> everywhere(bool truth) {
 template <class Mask>
 inline bool none(Mask mask) {
     return !any(mask);
+}
+
+// The divisor of those whose quotient is used; the others divide by one, so that they raise no exceptions.
+template <class Mask, class V>
+inline V divisorWhere(Mask mask, V divisor) {
+    return choose(mask, divisor, constant<V>(1));
 }
 
 // Where `mask` holds, a and b change places.

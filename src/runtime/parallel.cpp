@@ -28,6 +28,9 @@ private:
     unsigned found;
 };
 
+// Threads that write to one line take it from each other.
+constexpr std::size_t cacheLine = 64;
+
 struct Block {
     int first;
     int count;
@@ -89,11 +92,16 @@ LxpStatus shareOut(int count, std::size_t scratchBytes, SerialKernel kernel, con
     if (scratchBytes == 0 || team <= 1) {
         return runTeam(team, state, count, nullptr, 0, kernel, call);
     }
-    auto *const scratch = static_cast<std::byte *>(std::calloc(static_cast<std::size_t>(team - 1), scratchBytes));
+    const std::size_t each = (scratchBytes + cacheLine - 1) / cacheLine * cacheLine;
+    std::size_t bytes;
+    if (__builtin_mul_overflow(static_cast<std::size_t>(team - 1), each, &bytes)) {
+        return kernel(call, all);
+    }
+    auto *const scratch = static_cast<std::byte *>(std::aligned_alloc(cacheLine, bytes));
     if (scratch == nullptr) {
         return kernel(call, all);
     }
-    const LxpStatus status = runTeam(team, state, count, scratch, scratchBytes, kernel, call);
+    const LxpStatus status = runTeam(team, state, count, scratch, each, kernel, call);
     std::free(scratch);
     return status;
 }

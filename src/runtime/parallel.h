@@ -11,12 +11,18 @@
 namespace lxpm {
 
 // What one thread of a team is given: `count` objects from `first` on. The calling thread is thread 0. The others have
-// scratch memory of their own, as many bytes as were asked for; the calling thread has the caller's, and null here.
+// scratch memory of their own, as many bytes as were asked for and from a cache line's start on; the calling thread has
+// the caller's, and null here.
 struct Share {
     int first;
     int count;
     int thread;
     void *scratch;
+
+    template <class T>
+    T *scratchOr(T *ofCaller) const {
+        return scratch != nullptr ? static_cast<T *>(scratch) : ofCaller;
+    }
 };
 
 // A serial kernel, run over the objects of a share.

@@ -85,7 +85,6 @@ struct Determinants {
     int order;
     Addresses<const T> source;
     T *results;
-    Scratch<T> &scratch;
 };
 
 template <class T, int Order>
@@ -165,20 +164,19 @@ LxpStatus determinantsOf(const Determinants<T> &call, T *copy, int first, int co
 }
 
 template <class T>
-LxpStatus determinants(bool parallel, int count, int order, const Addresses<const T> &source, T *results) {
-    const OwnScratch<T> memory(order > largestCopied ? scratchOf<T>(order) : 0);
-    if (memory.isMissing()) {
-        return lxpStatusSizeErr;
-    }
-    Scratch<T> scratch(memory.get());
-    const Determinants<T> call = {order, source, results, scratch};
-    return overObjects(parallel, count, [&](int first, int objects) {
-        if (order <= largestCopied) {
+LxpStatus determinants(bool parallel, int count, const Determinants<T> &call) {
+    if (call.order <= largestCopied) {
+        return overObjects(parallel, count, [&](int first, int objects) {
             T copy[largestGroup];
             return determinantsOf<T>(call, copy, first, objects);
-        }
-        const ThreadScratch<T> copy(call.scratch, first == 0, scratchOf<T>(order));
-        return determinantsOf<T>(call, copy.get(), first, objects);
+        });
+    }
+    const OwnScratch<T> copy(scratchOf<T>(call.order));
+    if (copy.isMissing()) {
+        return lxpStatusSizeErr;
+    }
+    return overShares(parallel, count, copy.bytes(), [&](const Share &share) {
+        return determinantsOf<T>(call, share.scratchOr(copy.get()), share.first, share.count);
     });
 }
 
@@ -194,7 +192,7 @@ LxpStatus DetMember<operands, T, memory>::run(const Arguments &arguments) {
     const int count = number.value;
 
     const bool parallel = isArray && detail::det::threshold.isParallel(Work(n) * n * count);
-    return detail::det::determinants<T>(parallel, count, n, source.addresses(n, n), results.first);
+    return detail::det::determinants<T>(parallel, count, {n, source.addresses(n, n), results.first});
 }
 
 } // namespace lxpm

@@ -173,18 +173,18 @@ LxpStatus invertObjects(const Inversion<T> &call, Group<T> *memory, int first, i
 
 template <class T>
 LxpStatus invertAll(bool parallel, int count, const Inversion<T> &call) {
-    const OwnScratch<Group<T>> memory(call.order > largestCopied ? Workspace<T>::sizeFor(call.order) : 0);
+    if (call.order <= largestCopied) {
+        return overObjects(parallel, count, [&](int first, int objects) {
+            Group<T> small[Workspace<T>::sizeFor(largestCopied)];
+            return invertObjects<T>(call, small, first, objects);
+        });
+    }
+    const OwnScratch<Group<T>> memory(Workspace<T>::sizeFor(call.order));
     if (memory.isMissing()) {
         return lxpStatusSizeErr;
     }
-    Scratch<Group<T>> scratch(memory.get());
-    return overObjects(parallel, count, [&](int first, int objects) {
-        if (call.order <= largestCopied) {
-            Group<T> small[Workspace<T>::sizeFor(largestCopied)];
-            return invertObjects<T>(call, small, first, objects);
-        }
-        const ThreadScratch<Group<T>> own(scratch, first == 0, Workspace<T>::sizeFor(call.order));
-        return invertObjects<T>(call, own.get(), first, objects);
+    return overShares(parallel, count, memory.bytes(), [&](const Share &share) {
+        return invertObjects<T>(call, share.scratchOr(memory.get()), share.first, share.count);
     });
 }
 

@@ -11,7 +11,6 @@
 #include "solvers/by_groups.h"
 #include "solvers/matrices.h"
 #include "solvers/qr.h"
-#include "solvers/scratch.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -244,7 +243,7 @@ template <class T>
 struct Substitution {
     Size size;
     Addresses<const T> factors;
-    Scratch<T> &scratch;
+    T *buffer; // the caller's, of `height` elements
     Addresses<const T> right;
     Addresses<T> solution;
 };
@@ -338,18 +337,17 @@ LxpStatus substituteObjects(const Substitution<T> &call, T *x, int first, int co
 
 template <class T>
 LxpStatus substituteAll(bool parallel, int count, const Substitution<T> &call) {
-    return overObjects(parallel, count, [&](int first, int objects) {
-        const auto run = [&](T *x) {
-            return withOrder(call.size,
-                             [&](auto order) { return substituteObjects<T, order>(call, x, first, objects); });
-        };
-        if (call.size.height <= largestGroup) {
+    const auto run = [&](T *x, int first, int objects) {
+        return withOrder(call.size, [&](auto order) { return substituteObjects<T, order>(call, x, first, objects); });
+    };
+    if (call.size.height <= largestGroup) {
+        return overObjects(parallel, count, [&](int first, int objects) {
             T x[largestGroup];
-            return run(x);
-        }
-        const ThreadScratch<T> scratch(call.scratch, first == 0, call.size.height);
-        return run(scratch.get());
-    });
+            return run(x, first, objects);
+        });
+    }
+    return overShares(parallel, count, static_cast<std::size_t>(call.size.height) * sizeof(T),
+                      [&](const Share &share) { return run(share.scratchOr(call.buffer), share.first, share.count); });
 }
 
 } // namespace detail::qr
@@ -390,11 +388,10 @@ LxpStatus QRBackSubstMember<operands, T, memory>::run(const Arguments &arguments
                                        : Work(width) * height + (Work(width) + height) * count;
         parallel = rowOf<QRBackSubstMember, detail::qr::thresholds>.isParallel(work);
     }
-    Scratch<T> scratch(buffer.first);
     return detail::qr::substituteAll<T>(parallel, count,
                                         {{height, width},
                                          factors.addresses(height, width),
-                                         scratch,
+                                         buffer.first,
                                          right.addresses(1, height),
                                          destination.addresses(1, width)});
 }
