@@ -4,6 +4,7 @@
 // What lxpm does for somebody with a triangle mesh: each step computes on the mesh's own memory, is timed, and is held
 // against a plain loop; then the mesh is drawn from what the steps have computed.
 
+#include "agreement.h"
 #include "file_error.h"
 #include "job.h"
 #include "mesh_reader.h"
@@ -50,6 +51,17 @@ void printSurface(const Surface &surface, const std::string &path) {
     std::cout << '\n';
 }
 
+// What two independent ways to the same thing make of it.
+void printAgreements(const Surface &surface) {
+    const NormalAgreement normals = agreementOfNormals(surface);
+    std::cout << "\nnormals from points alone: half of them within " << fixed(normals.medianDegrees, 1)
+              << " degrees of the triangles' normals, " << fixed(normals.percentWithin30Degrees, 1) << " % within 30\n";
+    if (const std::optional<double> correlation = correlationOfCurvatures(surface)) {
+        std::cout << "mean curvatures of paraboloids: correlation " << fixed(*correlation, 3)
+                  << " with those by area gradients\n";
+    }
+}
+
 void printTimes(const Job &job, int repeat, Seconds whole) {
     Seconds oneRun{}, allRuns{};
     for (const Measurement &measurement : job.measurements()) {
@@ -94,6 +106,7 @@ int run(const Options &options, Clock::time_point programBegin) {
 
     printSurface(surface, options.input);
     printTable(std::cout, job.measurements());
+    printAgreements(surface);
     const bool agree = allAgree(job.measurements());
     if (agree && !options.output.empty()) {
         writePicture(surface, stage, options, progress);

@@ -37,7 +37,7 @@ void printTable(std::ostream &out, const std::vector<Measurement> &measurements)
     const auto row = [&out](std::string_view step, std::string_view function, std::string_view objects,
                             std::string_view time, std::string_view perObject, std::string_view deviation,
                             std::string_view limit) {
-        out << std::left << std::setw(27) << step << std::setw(31) << function << std::right << std::setw(8) << objects
+        out << std::left << std::setw(27) << step << std::setw(33) << function << std::right << std::setw(8) << objects
             << std::setw(9) << time << std::setw(11) << perObject << std::setw(11) << deviation << std::setw(8) << limit
             << '\n';
     };

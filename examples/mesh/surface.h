@@ -3,6 +3,7 @@
 #pragma once
 
 #include "mesh.h"
+#include "neighbour_rows.h"
 
 namespace lxpm::mesh {
 
@@ -21,12 +22,31 @@ struct Planes {
     std::array<Plane, 3> coordinates;
 };
 
+// A paraboloid a u^2 + b u v + c v^2 at each vertex, in the unit of length around it: by QR, and by Cholesky from the
+// normal equations.
+struct Fits {
+    // A little weight, `pull`, draws them towards the plane.
+    Fits(const Neighbours &neighbours, float pull);
+
+    NeighbourRows matrices;
+    std::vector<float> rightSides;
+    NeighbourRows factors;
+    std::vector<float> buffer;
+    std::vector<Point> paraboloids;
+
+    std::vector<Matrix3> normalMatrices;
+    std::vector<Point> normalSides;
+    std::vector<Matrix3> normalFactors;
+    std::vector<Point> sameParaboloids;
+};
+
 // The mesh, and what the steps compute for it: each fills what the later ones need.
 struct Surface {
     explicit Surface(Mesh mesh);
 
     std::vector<Triangle> triangles;
     std::vector<Edge> edges;      // each edge once, the smaller index first
+    Neighbours neighbours;        // of each vertex, in ascending order
     std::vector<Vertex> asRead;   // the positions of the file
     std::vector<Vertex> vertices; // centred on the mean and scaled into the unit sphere, with normals
 
@@ -57,6 +77,17 @@ struct Surface {
     std::vector<Point> skin;           // a little outside of the surface
     std::vector<Bounds> boxes;         // around the vertex and its neighbours
     std::vector<Quadric> vertexQuadrics;
+
+    Fits fits;
+
+    // for each vertex, from the points of its neighbours alone
+    std::vector<Matrix3> covariances; // with the identity added
+    std::vector<float> eigenBuffer;
+    std::vector<Matrix3> directions; // by columns, of greatest variance first
+    std::vector<Point> variances;    // along them, with 1 added
+    std::vector<float> agreements;   // of the direction of least variance with the normal: the cosine
+    std::vector<Point> pointNormals; // that direction, outwards
+    std::vector<float> variations;   // the least variance as a share of all
 
     // for each edge
     std::vector<Quadric> edgeQuadrics;

@@ -3,7 +3,9 @@
 #pragma once
 
 #include "boxes.h"
+#include "covariances.h"
 #include "curvature.h"
+#include "fits.h"
 #include "placement.h"
 #include "quadrics.h"
 #include "skin.h"
@@ -37,6 +39,18 @@ constexpr Step (*surfaceSteps[])(Surface &) = {
     areasAroundVertices,
     bendingAtVertices,
     meanCurvatures,
+
+    factorsOfFits,
+    quadraticFits,
+    normalMatrices,
+    normalRightSides,
+    factorsOfNormalMatrices,
+    fitsByNormalEquations,
+
+    covariances,
+    principalDirections,
+    agreements,
+    orientedNormals,
 
     outerSkin,
     boxesAroundVertices,
