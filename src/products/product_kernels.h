@@ -4,6 +4,7 @@
 
 // Which kernel computes a product. For the sources that instantiate them, one for each type.
 
+#include "products/group_product.h"
 #include "products/lane_product.h"
 #include "products/panel_product.h"
 #include "products/product.h"
@@ -118,8 +119,12 @@ void multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         return multiplySmall<T, 7>(p, count);
     case 8:
         return multiplySmall<T, 8>(p, count);
-    default:
-        return PanelProduct<T>::run(p, count);
+    default: {
+        const std::ptrdiff_t done = GroupProduct<T>::isBetter(p, count) ? GroupProduct<T>::run(p, count) : 0;
+        if (done < count) {
+            PanelProduct<T>::run(p.from(done), count - done);
+        }
+    }
     }
 }
 

@@ -36,12 +36,6 @@ inline Reading readingOf(const Addresses<const T> &source) {
     return source.step[0] == sizeof(T) && source.pointerStep[0] == 0 ? Reading::Objects : Reading::Apart;
 }
 
-template <class T>
-using Group = Lanes<T, fullLanes<T>>;
-
-template <class T>
-inline constexpr int groupSize = fullLanes<T>;
-
 // Columns of a group, as many as are asked for.
 template <class T>
 using GroupColumns = std::array<Group<T>, 4>;

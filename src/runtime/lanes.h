@@ -23,6 +23,16 @@ template <class T>
 inline constexpr int fullLanes = 32 / static_cast<int>(sizeof(T));
 
 template <class T, int N>
+struct Lanes;
+
+// A whole register of elements; as many objects of an array, one in each lane.
+template <class T>
+using Group = Lanes<T, fullLanes<T>>;
+
+template <class T>
+inline constexpr int groupSize = fullLanes<T>;
+
+template <class T, int N>
 struct Lanes {
     using Vector [[gnu::vector_size(N * sizeof(T))]] = T;
     struct [[gnu::packed, gnu::may_alias]] Unaligned {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "solvers/groups.h"
+#include "runtime/groups.h"
 
 #include <lxpm/types.h>
 

@@ -9,9 +9,9 @@
 // lanes rows are exchanged under masks, with one object only their numbers are; the order of candidates is the same,
 // and so is every operation on an element: the products are subtracted in ascending order of columns.
 
+#include "runtime/groups.h"
 #include "runtime/lanes.h"
 #include "runtime/numbers.h"
-#include "solvers/groups.h"
 #include "solvers/matrices.h"
 
 #include <limits>

@@ -5,17 +5,12 @@
 // The elements of one object as an algorithm sees them: matrix(i, j), or vector[i].
 
 #include "runtime/addresses.h"
+#include "runtime/groups.h"
 
 #include <cstddef>
 #include <type_traits>
 
 namespace lxpm {
-
-// The order up to which a matrix is worth copying to the stack: in lanes, or where its rows do not touch.
-inline constexpr int largestCopied = 16;
-
-// The elements up to which an operand of a group of objects fits the stack and the first cache.
-inline constexpr int largestGroup = largestCopied * largestCopied;
 
 // Rows whose elements touch. The step from row to row is counted in elements.
 template <class Element>
@@ -46,13 +41,6 @@ struct AnyVector {
 
     Element &operator[](std::ptrdiff_t i) const { return *operand.at(0, 0, i); }
 };
-
-// Whether all of a matrix takes part, or what stands above its diagonal is none of the operation's business.
-enum class Part { Whole, LowerTriangle };
-
-constexpr int lengthOf(Part part, int row, int columns) {
-    return part == Part::LowerTriangle && row + 1 < columns ? row + 1 : columns;
-}
 
 // Object 0 of one operand to that of another.
 template <Part part, class T>

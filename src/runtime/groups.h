@@ -21,11 +21,18 @@
 
 namespace lxpm {
 
-template <class T>
-using Group = Lanes<T, fullLanes<T>>;
+// The order up to which a matrix is worth copying to the stack: in lanes, or where its rows do not touch.
+inline constexpr int largestCopied = 16;
 
-template <class T>
-inline constexpr int groupSize = fullLanes<T>;
+// The elements up to which an operand of a group of objects fits the stack and the first cache.
+inline constexpr int largestGroup = largestCopied * largestCopied;
+
+// Whether all of a matrix takes part, or what stands above its diagonal is none of the operation's business.
+enum class Part { Whole, LowerTriangle };
+
+constexpr int lengthOf(Part part, int row, int columns) {
+    return part == Part::LowerTriangle && row + 1 < columns ? row + 1 : columns;
+}
 
 namespace detail {
 

@@ -1,9 +1,7 @@
 // Copyright (c) 2026 The lxpm authors
 // SPDX-License-Identifier: MIT
 
-#include "solvers/groups.h"
-
-#include "solvers/matrices.h"
+#include "runtime/groups.h"
 
 #include <algorithm>
 #include <array>
