@@ -12,6 +12,7 @@ void addMoving(PeerTable &table);
 void addProducts(PeerTable &table);
 void addReductions(PeerTable &table);
 void addGraphics(PeerTable &table);
+void addSolvers(PeerTable &table);
 void addEigenproblems(PeerTable &table);
 
 } // namespace lxpm::bench::eigen

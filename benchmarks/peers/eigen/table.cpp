@@ -11,6 +11,7 @@ extern "C" const lxpm::bench::PeerTable *LXPM_PEER_TABLE() {
         lxpm::bench::eigen::addProducts(table);
         lxpm::bench::eigen::addReductions(table);
         lxpm::bench::eigen::addGraphics(table);
+        lxpm::bench::eigen::addSolvers(table);
         lxpm::bench::eigen::addEigenproblems(table);
         return table;
     }();

@@ -4,11 +4,11 @@
 // OpenBLAS, one call for each object, or one for all vectors of an array.
 
 #include "blocks.h"
-#include "peers/peer.h"
+#include "peers/openblas/families.h"
 
 #include <cblas.h>
 
-namespace lxpm::bench {
+namespace lxpm::bench::openblas {
 
 namespace {
 
@@ -63,16 +63,9 @@ void addOrders(PeerTable &table, const std::string &type) {
 
 } // namespace
 
-} // namespace lxpm::bench
-
-extern "C" const lxpm::bench::PeerTable *LXPM_PEER_TABLE() {
-    using namespace lxpm::bench;
-    static const PeerTable all = [] {
-        openblas_set_num_threads(1); // the threads are the benchmark's own
-        PeerTable table;
-        addOrders<float, 3, 4, 5, 6, 8, 16, 32>(table, "32f");
-        addOrders<double, 3, 4, 5, 6, 8, 16, 32>(table, "64f");
-        return table;
-    }();
-    return &all;
+void addProducts(PeerTable &table) {
+    addOrders<float, 3, 4, 5, 6, 8, 16, 32>(table, "32f");
+    addOrders<double, 3, 4, 5, 6, 8, 16, 32>(table, "64f");
 }
+
+} // namespace lxpm::bench::openblas
