@@ -145,22 +145,7 @@ LxpStatus determinantsOf(const Determinants<T> &call, T *copy, int first, int co
 
 template <class T>
 LxpStatus determinantsOf(const Determinants<T> &call, T *copy, int first, int count) {
-    switch (call.order) {
-    case 1:
-        return determinantsOf<T, 1>(call, copy, first, count);
-    case 2:
-        return determinantsOf<T, 2>(call, copy, first, count);
-    case 3:
-        return determinantsOf<T, 3>(call, copy, first, count);
-    case 4:
-        return determinantsOf<T, 4>(call, copy, first, count);
-    case 5:
-        return determinantsOf<T, 5>(call, copy, first, count);
-    case 6:
-        return determinantsOf<T, 6>(call, copy, first, count);
-    default:
-        return determinantsOf<T, 0>(call, copy, first, count);
-    }
+    return withOrder<1, 6>(call.order, [&](auto order) { return determinantsOf<T, order>(call, copy, first, count); });
 }
 
 template <class T>

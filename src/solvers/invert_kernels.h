@@ -157,18 +157,7 @@ LxpStatus invertObjects(const Inversion<T> &call, const Workspace<T> &workspace,
 template <class T>
 LxpStatus invertObjects(const Inversion<T> &call, Group<T> *memory, int first, int count) {
     const Workspace<T> workspace(memory, call.order);
-    switch (call.order) {
-    case 3:
-        return invertObjects<T, 3>(call, workspace, first, count);
-    case 4:
-        return invertObjects<T, 4>(call, workspace, first, count);
-    case 5:
-        return invertObjects<T, 5>(call, workspace, first, count);
-    case 6:
-        return invertObjects<T, 6>(call, workspace, first, count);
-    default:
-        return invertObjects<T, 0>(call, workspace, first, count);
-    }
+    return withOrder(call.order, [&](auto order) { return invertObjects<T, order>(call, workspace, first, count); });
 }
 
 template <class T>

@@ -126,18 +126,7 @@ LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
 template <class T>
 LxpStatus decompose(bool parallel, int count, const Decomposition<T> &call) {
     return overObjects(parallel, count, [&](int first, int objects) {
-        switch (call.order) {
-        case 3:
-            return decomposeObjects<T, 3>(call, first, objects);
-        case 4:
-            return decomposeObjects<T, 4>(call, first, objects);
-        case 5:
-            return decomposeObjects<T, 5>(call, first, objects);
-        case 6:
-            return decomposeObjects<T, 6>(call, first, objects);
-        default:
-            return decomposeObjects<T, 0>(call, first, objects);
-        }
+        return withOrder(call.order, [&](auto order) { return decomposeObjects<T, order>(call, first, objects); });
     });
 }
 
@@ -268,18 +257,7 @@ LxpStatus substituteObjects(const Substitution<T> &call, int first, int count) {
 template <class T>
 LxpStatus substituteAll(bool parallel, int count, const Substitution<T> &call) {
     return overObjects(parallel, count, [&](int first, int objects) {
-        switch (call.order) {
-        case 3:
-            return substituteObjects<T, 3>(call, first, objects);
-        case 4:
-            return substituteObjects<T, 4>(call, first, objects);
-        case 5:
-            return substituteObjects<T, 5>(call, first, objects);
-        case 6:
-            return substituteObjects<T, 6>(call, first, objects);
-        default:
-            return substituteObjects<T, 0>(call, first, objects);
-        }
+        return withOrder(call.order, [&](auto order) { return substituteObjects<T, order>(call, first, objects); });
     });
 }
 

@@ -177,19 +177,8 @@ LxpStatus decomposeOne(const Addresses<const T> &source, const Addresses<T> &des
 
 // Calls the kernel of the size's order.
 template <class Kernel>
-LxpStatus withOrder(Size size, const Kernel &kernel) {
-    switch (size.width == size.height ? size.width : 0) {
-    case 3:
-        return kernel(std::integral_constant<int, 3>());
-    case 4:
-        return kernel(std::integral_constant<int, 4>());
-    case 5:
-        return kernel(std::integral_constant<int, 5>());
-    case 6:
-        return kernel(std::integral_constant<int, 6>());
-    default:
-        return kernel(std::integral_constant<int, 0>());
-    }
+LxpStatus withOrderOf(Size size, const Kernel &kernel) {
+    return withOrder(size.width == size.height ? size.width : 0, kernel);
 }
 
 template <class T, int Order>
@@ -210,7 +199,7 @@ LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
 template <class T>
 LxpStatus decompose(bool parallel, int count, const Decomposition<T> &call) {
     return overObjects(parallel, count, [&](int first, int objects) {
-        return withOrder(call.size, [&](auto order) { return decomposeObjects<T, order>(call, first, objects); });
+        return withOrderOf(call.size, [&](auto order) { return decomposeObjects<T, order>(call, first, objects); });
     });
 }
 
@@ -338,7 +327,7 @@ LxpStatus substituteObjects(const Substitution<T> &call, T *x, int first, int co
 template <class T>
 LxpStatus substituteAll(bool parallel, int count, const Substitution<T> &call) {
     const auto run = [&](T *x, int first, int objects) {
-        return withOrder(call.size, [&](auto order) { return substituteObjects<T, order>(call, x, first, objects); });
+        return withOrderOf(call.size, [&](auto order) { return substituteObjects<T, order>(call, x, first, objects); });
     };
     if (call.size.height <= largestGroup) {
         return overObjects(parallel, count, [&](int first, int objects) {
