@@ -54,7 +54,7 @@ public:
 
     auto lanes() const {
         return [matrix = MatrixInLanes(columns_)](const Vectors<from> &v, Vectors<to> &result) {
-            const Group w = matrix.times<LeftToRightPoint3>(v, 3);
+            const Group<float> w = matrix.times<LeftToRightPoint3>(v, 3);
             const __m256 magnitude = _mm256_andnot_ps(_mm256_set1_ps(-0.0F), w.vector);
             const __m256 isSmall = _mm256_cmp_ps(magnitude, _mm256_set1_ps(smallestDivisor), _CMP_LT_OS);
             if (_mm256_movemask_ps(isSmall) != 0) {

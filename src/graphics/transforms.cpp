@@ -59,7 +59,7 @@ public:
 
     auto lanes() const {
         return [matrix = MatrixInLanes(matrix_)](const Vectors<from> &v, Vectors<to> &result) {
-            const Group w = matrix.times<Formula>(v, 3);
+            const Group<float> w = matrix.times<Formula>(v, 3);
             for (int i = 0; i < to; ++i) {
                 result[i] = matrix.times<Formula>(v, i) / w;
             }
@@ -106,10 +106,10 @@ public:
                 projection = MatrixInLanes(projection_)](const Vectors<from> &v, Vectors<to> &result) {
             const Vectors<4> inWorld = world.times<ExchangedPoint3>(v);
             const Vectors<4> inView = view.times<Vector4>(inWorld);
-            const Group w = projection.times<Vector4>(inView, 3);
+            const Group<float> w = projection.times<Vector4>(inView, 3);
             for (int i = 0; i < to; ++i) {
-                const Group normalised = projection.times<Vector4>(inView, i) / w;
-                result[i] = Group::splat(base_[i]) + Group::splat(extent_[i]) * normalised;
+                const Group<float> normalised = projection.times<Vector4>(inView, i) / w;
+                result[i] = Group<float>::splat(base_[i]) + Group<float>::splat(extent_[i]) * normalised;
             }
             return true;
         };
@@ -143,7 +143,7 @@ public:
 
     auto lanes() const {
         return [copy = *this](const Vectors<from> &v, Vectors<to> &result) {
-            result = copy.normalise<Group>(v);
+            result = copy.normalise<Group<float>>(v);
             return true;
         };
     }
