@@ -141,7 +141,7 @@ template <bool wantsVectors, class Order, class V>
             h[i * order + k] = wantsVectors ? vector[i] : zero;
         }
         h[(k + 1) * order + k] = choose(isReduced, first, reduced);
-        const V scale = one / choose(isReduced, one, norm * (norm + magnitude(first)));
+        const V scale = one / divisorUnless(isReduced, norm * (norm + magnitude(first)));
         if constexpr (wantsVectors) {
             head[k] = vector[k + 1];
             scales[k] = scale;

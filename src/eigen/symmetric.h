@@ -54,7 +54,7 @@ template <class Order, class V, class Line>
         for (int j = k + 2; j < order; ++j) {
             v[j] = choose(isReduced, zero, v[j]);
         }
-        const V scale = one / choose(isReduced, one, norm * (norm + magnitude(first)));
+        const V scale = one / divisorUnless(isReduced, norm * (norm + magnitude(first)));
         v[k] = scale;
 
         // a - v q' - q v' with q = p - (scale (v p) / 2) v, p = scale a v. It is kept where d is not known yet.

@@ -44,7 +44,7 @@ template <class V>
     const MaskOf<V> isEither = either(isPositive, isNegative);
     const V first = half * choose(isPositive, trace + r, choose(isNegative, trace - r, r));
     values[0] = first;
-    values[1] = choose(isEither, determinant / choose(isEither, first, constant<V>(1)), constant<V>(-0.5) * r);
+    values[1] = choose(isEither, determinant / divisorWhere(isEither, first), constant<V>(-0.5) * r);
     return singular;
 }
 

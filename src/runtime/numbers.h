@@ -34,10 +34,10 @@ using MaskOf = typename NumberOf<V>::Mask;
 template <class V>
 inline constexpr bool isSingle = NumberOf<V>::lanes == 1;
 
-// Clang moves signs through products and quotients, which changes their bits unless rounding is to the nearest. It does
-// not where it cannot see the sign.
+// The same number, of which the compiler knows nothing. Clang moves signs through products and quotients, which changes
+// their bits unless rounding is to the nearest, and divides before it has chosen a divisor, which raises exceptions.
 template <class V>
-inline V ofUnknownSign(V x) {
+inline V opaque(V x) {
     if constexpr (isSingle<V>) {
         asm("" : "+x"(x));
     } else {
@@ -60,7 +60,7 @@ inline V ofUnknownSign(V x) {
         return std::fabs(x);                                                                                           \
     }                                                                                                                  \
     inline T negated(T x) {                                                                                            \
-        return ofUnknownSign(-ofUnknownSign(x));                                                                       \
+        return opaque(-opaque(x));                                                                                     \
     }                                                                                                                  \
     inline T choose(bool mask, T a, T b) {                                                                             \
         return mask ? a : b;                                                                                           \
@@ -120,7 +120,7 @@ using Mask64 = MaskOf<Lanes64>;
         return {_mm256_andnot_##ps(Number::splat(-0.0).vector, x.vector)};                                             \
     }                                                                                                                  \
     inline Number negated(Number x) {                                                                                  \
-        return ofUnknownSign(Number{_mm256_xor_##ps(Number::splat(-0.0).vector, ofUnknownSign(x).vector)});            \
+        return opaque(Number{_mm256_xor_##ps(Number::splat(-0.0).vector, opaque(x).vector)});                          \
     }                                                                                                                  \
     inline bool any(Mask mask) {                                                                                       \
         return _mm256_movemask_##ps(mask.bits) != 0;                                                                   \
@@ -159,10 +159,10 @@ inline Lanes64 choose(Mask64 mask, Lanes64 a, Lanes64 b) {
 template <class V>
 inline V constant(double value) {
     if constexpr (isSingle<V>) {
-        return value < 0 ? ofUnknownSign(static_cast<V>(value)) : static_cast<V>(value);
+        return value < 0 ? opaque(static_cast<V>(value)) : static_cast<V>(value);
     } else {
         const auto element = static_cast<ElementOf<V>>(value);
-        return V::splat(value < 0 ? ofUnknownSign(element) : element);
+        return V::splat(value < 0 ? opaque(element) : element);
     }
 }
 
@@ -191,10 +191,29 @@ inline bool none(Mask mask) {
     return !any(mask);
 }
 
+namespace detail {
+
+// In lanes the choice itself is opaque.
+template <class V>
+inline V asDivisor(V chosen) {
+    if constexpr (isSingle<V>) {
+        return opaque(chosen);
+    } else {
+        return chosen;
+    }
+}
+
+} // namespace detail
+
 // The divisor of those whose quotient is used; the others divide by one, so that they raise no exceptions.
 template <class Mask, class V>
 inline V divisorWhere(Mask mask, V divisor) {
-    return choose(mask, divisor, constant<V>(1));
+    return detail::asDivisor(choose(mask, divisor, constant<V>(1)));
+}
+
+template <class Mask, class V>
+inline V divisorUnless(Mask mask, V divisor) {
+    return detail::asDivisor(choose(mask, constant<V>(1), divisor));
 }
 
 // Where `mask` holds, a and b change places.
