@@ -29,10 +29,24 @@ struct Case {
 
     // The call, with its operands laid out in that memory; its first result is Memory::result().
     std::function<Call(const Memory &)> prepare;
+
+    // The size of a result's elements where a peer may round it differently, because it adds in another order; else 0,
+    // and the bits are compared. How far they may be apart, in terms of the largest result.
+    std::size_t roundedElementSize = 0;
+    double tolerance = 1e-4;
+
+    // Whether peers leave the same results: not decompositions, of which each has a form of its own.
+    bool comparesResults = true;
 };
 
 // The list of all cases. A family appends its own.
 std::vector<Case> allCases();
 void appendAddSub(std::vector<Case> &cases);
+void appendMoving(std::vector<Case> &cases);
+void appendProducts(std::vector<Case> &cases);
+void appendReductions(std::vector<Case> &cases);
+void appendGraphics(std::vector<Case> &cases);
+void appendEigenproblems(std::vector<Case> &cases);
+void appendSolvers(std::vector<Case> &cases);
 
 } // namespace lxpm::bench

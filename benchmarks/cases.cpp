@@ -8,6 +8,12 @@ namespace lxpm::bench {
 std::vector<Case> allCases() {
     std::vector<Case> cases;
     appendAddSub(cases);
+    appendMoving(cases);
+    appendProducts(cases);
+    appendReductions(cases);
+    appendGraphics(cases);
+    appendEigenproblems(cases);
+    appendSolvers(cases);
     return cases;
 }
 

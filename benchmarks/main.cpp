@@ -9,7 +9,9 @@
 #include "peers/peers.h"
 #include "triad.h"
 
+#include <algorithm>
 #include <benchmark/benchmark.h>
+#include <cmath>
 #include <cstring>
 #include <memory>
 #include <omp.h>
@@ -36,7 +38,8 @@ void showProgress(const std::string &what) {
 class Contest {
 public:
     Contest(const Case &subject, std::string contestant, std::function<Call(const Memory &)> prepare, bool isPeer)
-        : case_(subject), contestant_(std::move(contestant)), prepare_(std::move(prepare)), toBeChecked_(isPeer) {}
+        : case_(subject), contestant_(std::move(contestant)), prepare_(std::move(prepare)),
+          toBeChecked_(isPeer && subject.comparesResults) {}
 
     std::string name() const { return case_.group + "/" + case_.name + "/" + contestant_; }
 
@@ -44,7 +47,7 @@ public:
         showProgress(name());
         const Memory &memory = case_.setting.memory();
         omp_set_num_threads(case_.setting.threads);
-        if (toBeChecked_ && resultOf(prepare_(memory), memory) != resultOf(case_.prepare(memory), memory)) {
+        if (toBeChecked_ && !agree(resultOf(prepare_(memory), memory), resultOf(case_.prepare(memory), memory))) {
             state.SkipWithError("its results are not those of the library");
             return;
         }
@@ -62,13 +65,35 @@ public:
     }
 
 private:
-    // A digest of everything that a call writes; none if it fails.
-    std::optional<std::size_t> resultOf(const Call &call, const Memory &memory) const {
+    // Everything that a call writes; none if it fails.
+    std::optional<std::string> resultOf(const Call &call, const Memory &memory) const {
         std::memset(memory.result(), 0, case_.bytesWritten);
         if (call() != lxpStatusOk) {
             return std::nullopt;
         }
-        return std::hash<std::string_view>()({static_cast<const char *>(memory.result()), case_.bytesWritten});
+        return std::string(static_cast<const char *>(memory.result()), case_.bytesWritten);
+    }
+
+    bool agree(const std::optional<std::string> &peer, const std::optional<std::string> &own) const {
+        if (!peer || !own || case_.roundedElementSize == 0) {
+            return peer == own;
+        }
+        return case_.roundedElementSize == sizeof(float) ? areClose<float>(*peer, *own) : areClose<double>(*peer, *own);
+    }
+
+    template <class T>
+    bool areClose(const std::string &peer, const std::string &own) const {
+        T largest = 0;
+        T farthest = 0;
+        for (std::size_t at = 0; at < own.size(); at += sizeof(T)) {
+            T a;
+            T b;
+            std::memcpy(&a, peer.data() + at, sizeof(T));
+            std::memcpy(&b, own.data() + at, sizeof(T));
+            largest = std::max(largest, std::abs(b));
+            farthest = std::max(farthest, std::abs(a - b));
+        }
+        return farthest <= case_.tolerance * largest;
     }
 
     const Case &case_;

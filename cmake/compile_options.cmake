@@ -9,6 +9,11 @@ if(LXPM_SANITIZE)
     target_compile_options(lxpm_options INTERFACE
         -fsanitize=${LXPM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(lxpm_options INTERFACE -fsanitize=${LXPM_SANITIZE})
+    if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+        # For programs in C, which the library brings into touch with checks of C++.
+        target_link_options(lxpm_options INTERFACE -fsanitize-link-c++-runtime)
+        target_link_libraries(lxpm_options INTERFACE $<$<LINK_LANGUAGE:C>:stdc++>)
+    endif()
 endif()
 
 # The arithmetic of the library: AVX and nothing beyond it, every operation rounded as it is written. What is to go in

@@ -32,7 +32,12 @@
  * so any number of threads may call them at once as long as their destinations do not overlap.
  */
 
+#include <lxpm/eigen.h>
 #include <lxpm/elementwise.h>
+#include <lxpm/graphics.h>
+#include <lxpm/products.h>
+#include <lxpm/reductions.h>
+#include <lxpm/solvers.h>
 #include <lxpm/types.h>
 #include <lxpm/version.h>
 

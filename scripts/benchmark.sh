@@ -25,7 +25,8 @@ esac
 filter=${1:-.}
 [ $# -eq 0 ] || shift
 
-require_packages g++ cmake ninja-build python3 libeigen3-dev libbenchmark-dev
+require_packages g++ cmake ninja-build python3 libeigen3-dev libbenchmark-dev libcglm-dev libglm-dev liblapacke-dev \
+    libopenblas-dev libxsmm-dev pkg-config
 
 say "Building (build/benchmarks)"
 log=$(mktemp)

@@ -16,7 +16,8 @@ presets=("$@")
 
 say() { echo "== $*" >&2; }
 
-require_packages binutils clang clang-format cmake g++ gcc libclang-rt-dev libgtest-dev libomp-dev ninja-build pkg-config
+require_packages binutils clang clang-format cmake g++ gcc libcglm-dev libclang-rt-dev libglm-dev libgtest-dev liblapacke-dev \
+    libomp-dev libpng-dev ninja-build pkg-config
 
 say "Format"
 git ls-files '*.c' '*.h' '*.cpp' | xargs clang-format --dry-run --Werror

@@ -8,6 +8,10 @@
 extern "C" {
 const lxpm::bench::PeerTable *lxpmPeer_eigen_avx();
 const lxpm::bench::PeerTable *lxpmPeer_eigen_native();
+const lxpm::bench::PeerTable *lxpmPeer_libxsmm();
+const lxpm::bench::PeerTable *lxpmPeer_openblas();
+const lxpm::bench::PeerTable *lxpmPeer_glm();
+const lxpm::bench::PeerTable *lxpmPeer_cglm();
 }
 
 namespace lxpm::bench {
@@ -22,6 +26,10 @@ const std::vector<Peer> &peers() {
     static const std::vector<Peer> all = {
         {"Eigen-avx", *lxpmPeer_eigen_avx()},
         {"Eigen-native", *lxpmPeer_eigen_native()},
+        {"libxsmm", *lxpmPeer_libxsmm()},
+        {"OpenBLAS", *lxpmPeer_openblas()},
+        {"GLM", *lxpmPeer_glm()},
+        {"cglm", *lxpmPeer_cglm()},
     };
     return all;
 }

@@ -12,7 +12,7 @@ using Point = std::array<float, 3>;
 // Interleaved, as a graphics program hands it to the graphics processor.
 struct Vertex {
     Point position;
-    Point normal; // of length 1, or 0 where the surface has none
+    Point normal; // outwards, of length 1, or 0 where the surface has none
 };
 
 // Indexes of the corners, counter-clockwise as seen from outside.
@@ -22,5 +22,12 @@ struct Mesh {
     std::vector<Vertex> vertices;
     std::vector<Triangle> triangles;
 };
+
+struct Bounds {
+    Point lower;
+    Point upper;
+};
+
+Bounds boundsOf(const std::vector<Vertex> &vertices);
 
 } // namespace lxpm::mesh

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "mesh_reader.h"
+#include "file_error.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <climits>
@@ -18,7 +20,7 @@ namespace lxpm::mesh {
 namespace {
 
 std::string readFile(const std::string &path) {
-    const auto fail = [&] { throw ReadError("cannot read " + path + ": " + std::strerror(errno)); };
+    const auto fail = [&] { throw FileError("cannot read " + path + ": " + std::strerror(errno)); };
 
     const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::fopen(path.c_str(), "rb"), std::fclose);
     if (!file) {
@@ -57,27 +59,6 @@ std::optional<Number> parse(std::string_view word) {
     return number;
 }
 
-Point normalised(const Point &v) {
-    const double length = std::hypot(v[0], v[1], v[2]);
-    if (length == 0) {
-        return {};
-    }
-    return {static_cast<float>(v[0] / length), static_cast<float>(v[1] / length), static_cast<float>(v[2] / length)};
-}
-
-// Of twice the length of the triangle's area.
-Point areaNormal(const Point &a, const Point &b, const Point &c) {
-    const Point u = {b[0] - a[0], b[1] - a[1], b[2] - a[2]};
-    const Point v = {c[0] - a[0], c[1] - a[1], c[2] - a[2]};
-    return {u[1] * v[2] - u[2] * v[1], u[2] * v[0] - u[0] * v[2], u[0] * v[1] - u[1] * v[0]};
-}
-
-void accumulate(Point &sum, const Point &term) {
-    for (int j = 0; j < 3; ++j) {
-        sum[j] += term[j];
-    }
-}
-
 class ObjReader {
 public:
     explicit ObjReader(const std::string &path) : path_(path) {}
@@ -87,8 +68,6 @@ public:
         const std::string_view keyword = takeWord(line);
         if (keyword == "v") {
             mesh_.vertices.push_back({.position = readPoint(line), .normal = {}});
-        } else if (keyword == "vn") {
-            normals_.push_back(readPoint(line));
         } else if (keyword == "f") {
             readFace(line);
         }
@@ -96,106 +75,86 @@ public:
 
     Mesh finish() {
         if (mesh_.vertices.empty() || mesh_.triangles.empty()) {
-            throw ReadError(path_ + " is not a mesh: it has " + (mesh_.vertices.empty() ? "no vertices" : "no faces"));
+            throw FileError(path_ + " is not a mesh: it has " + (mesh_.vertices.empty() ? "no vertices" : "no faces"));
         }
-        // The library counts objects with int; a step may have an object for each side of each triangle.
-        if (std::max(mesh_.vertices.size(), 3 * mesh_.triangles.size()) > INT_MAX) {
-            throw ReadError(path_ + " is too large");
+        // The library counts objects and strides with int; some steps have an object for each side of each triangle.
+        if (std::max(2 * mesh_.vertices.size(), 3 * mesh_.triangles.size()) > INT_MAX) {
+            throw FileError(path_ + " is too large");
         }
-        if (!everyCornerHasNormal_) {
-            takeNormalsOfTriangles();
-        }
-        for (Vertex &vertex : mesh_.vertices) {
-            vertex.normal = normalised(vertex.normal);
-        }
+        requireSingleRange();
         return std::move(mesh_);
     }
 
 private:
-    struct Corner {
-        int vertex;
-        std::optional<int> normal;
-    };
-
     [[noreturn]] void fail(const std::string &what) const {
-        throw ReadError(path_ + ":" + std::to_string(lineNumber_) + ": " + what);
+        throw FileError(path_ + ":" + std::to_string(lineNumber_) + ": " + what);
     }
 
     Point readPoint(std::string_view line) const {
         Point point{};
         for (float &coordinate : point) {
-            const std::optional<float> number = parse<float>(takeWord(line));
-            if (!number || !std::isfinite(*number)) {
-                fail("a vertex or normal needs three finite coordinates");
+            const std::string_view word = takeWord(line);
+            const std::optional<double> number = parse<double>(word);
+            if (!number || !std::isfinite(static_cast<float>(*number))) {
+                fail("a vertex needs three finite coordinates" +
+                     (word.empty() ? "" : ", not '" + std::string(word) + "'"));
             }
-            coordinate = *number;
+            coordinate = static_cast<float>(*number);
         }
         return point;
     }
 
-    // Indexes count from 1; negative ones backwards from the element that was read last.
-    int readIndex(std::string_view word, std::size_t size, const char *what) const {
-        const std::optional<long> number = parse<long>(word);
+    // vertex, vertex/texture, vertex//normal or vertex/texture/normal. Indexes count from 1; negative ones backwards
+    // from the vertex that was read last.
+    int readCorner(std::string_view word) const {
+        const long size = static_cast<long>(mesh_.vertices.size());
+        const std::optional<long> number = parse<long>(word.substr(0, word.find('/')));
         if (!number) {
             fail("a face needs indexes, not '" + std::string(word) + "'");
         }
-        const long index = *number < 0 ? *number + static_cast<long>(size) : *number - 1;
-        if (index < 0 || index >= static_cast<long>(size)) {
-            fail(std::string("the face refers to ") + what + " " + std::to_string(*number) + ", but " +
-                 std::to_string(size) + " stand before it");
+        const long index = *number < 0 ? *number + size : *number - 1;
+        if (index < 0 || index >= size) {
+            fail("the face refers to vertex " + std::to_string(*number) + ", but " + std::to_string(size) +
+                 " stand before it");
         }
         return static_cast<int>(index);
-    }
-
-    // vertex, vertex/texture, vertex//normal or vertex/texture/normal
-    Corner readCorner(std::string_view word) const {
-        const std::size_t first = word.find('/');
-        const std::size_t second = first == word.npos ? word.npos : word.find('/', first + 1);
-        Corner corner{readIndex(word.substr(0, first), mesh_.vertices.size(), "vertex"), std::nullopt};
-        if (second != word.npos) {
-            corner.normal = readIndex(word.substr(second + 1), normals_.size(), "normal");
-        }
-        return corner;
     }
 
     void readFace(std::string_view line) {
         face_.clear();
         for (std::string_view word = takeWord(line); !word.empty(); word = takeWord(line)) {
-            const Corner corner = readCorner(word);
-            face_.push_back(corner.vertex);
-            if (corner.normal) {
-                accumulate(mesh_.vertices[corner.vertex].normal, normals_[*corner.normal]);
-            } else {
-                everyCornerHasNormal_ = false;
-            }
+            face_.push_back(readCorner(word));
         }
         if (face_.size() < 3) {
             fail("a face needs at least three corners");
         }
         for (std::size_t i = 2; i < face_.size(); ++i) {
-            mesh_.triangles.push_back({face_[0], face_[i - 1], face_[i]});
+            const int a = face_[0], b = face_[i - 1], c = face_[i];
+            if (a != b && b != c && c != a) {
+                mesh_.triangles.push_back({a, b, c});
+            }
         }
     }
 
-    void takeNormalsOfTriangles() {
-        for (Vertex &vertex : mesh_.vertices) {
-            vertex.normal = {};
+    // Squares of lengths, and sums of all coordinates, have to stay far from both ends of single precision.
+    void requireSingleRange() const {
+        constexpr float smallest = 1e-12f, largest = 1e12f;
+        const auto [lower, upper] = boundsOf(mesh_.vertices);
+        float extent = 0, farthest = 0;
+        for (int j = 0; j < 3; ++j) {
+            extent = std::max(extent, upper[j] - lower[j]);
+            farthest = std::max({farthest, std::abs(lower[j]), std::abs(upper[j])});
         }
-        for (const auto &[a, b, c] : mesh_.triangles) {
-            std::vector<Vertex> &vertices = mesh_.vertices;
-            const Point normal = areaNormal(vertices[a].position, vertices[b].position, vertices[c].position);
-            accumulate(vertices[a].normal, normal);
-            accumulate(vertices[b].normal, normal);
-            accumulate(vertices[c].normal, normal);
+        if (!(extent >= smallest && farthest <= largest)) {
+            throw FileError(path_ + " is not a mesh to compute with: its vertices should be at least 1e-12 apart and "
+                                    "at most 1e12 from the origin");
         }
     }
 
     const std::string &path_;
     std::size_t lineNumber_ = 0;
     Mesh mesh_;
-    std::vector<Point> normals_;
     std::vector<int> face_;
-    bool everyCornerHasNormal_ = true;
 };
 
 } // namespace

@@ -2,13 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "stage.h"
+
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace lxpm::mesh {
 
 struct Options {
     std::string input;
+    std::string output; // empty: no picture
+    int size = 360;     // of one view, in pixels
+    std::vector<View> views;
     int repeat = 10;
     bool help = false;
 };

@@ -23,24 +23,33 @@ std::string fixed(double number, int decimals) {
     return text.str();
 }
 
-void printTable(std::ostream &out, const std::vector<Measurement> &measurements) {
-    Seconds inLibrary{};
-    for (const Measurement &measurement : measurements) {
-        inLibrary += measurement.time;
+void printBounds(std::ostream &out, std::string_view when, const Bounds &bounds) {
+    out << std::left << std::setw(17) << when << std::right;
+    for (int j = 0; j < 3; ++j) {
+        out << "   "
+            << "xyz"[j] << std::setw(9) << fixed(bounds.lower[j], 4) << " to" << std::setw(8)
+            << fixed(bounds.upper[j], 4);
     }
+    out << '\n';
+}
 
+void printTable(std::ostream &out, const std::vector<Measurement> &measurements) {
     const auto row = [&out](std::string_view step, std::string_view function, std::string_view objects,
-                            std::string_view time, std::string_view perObject, std::string_view share,
-                            std::string_view check) {
-        out << std::left << std::setw(30) << step << std::setw(24) << function << std::right << std::setw(9) << objects
-            << std::setw(10) << time << std::setw(11) << perObject << std::setw(7) << share << "  " << check << '\n';
+                            std::string_view time, std::string_view perObject, std::string_view deviation,
+                            std::string_view limit) {
+        out << std::left << std::setw(27) << step << std::setw(33) << function << std::right << std::setw(8) << objects
+            << std::setw(9) << time << std::setw(11) << perObject << std::setw(11) << deviation << std::setw(8) << limit
+            << '\n';
     };
-    row("step", "function", "objects", "time/us", "ns/object", "share", "check");
+    row("step", "function", "objects", "time/us", "ns/object", "deviation", "limit");
     for (const Measurement &m : measurements) {
-        row(m.step, m.function, grouped(m.objects), fixed(m.time.count() * 1e6, 1),
-            fixed(m.time.count() * 1e9 / static_cast<double>(m.objects), 2), fixed(100 * m.time / inLibrary, 0) + " %",
-            m.agrees ? "same bits" : "DIFFERS");
+        row(m.step, m.function, grouped(m.objects), fixed(m.fastest.count() * 1e6, 1),
+            fixed(m.fastest.count() * 1e9 / static_cast<double>(m.objects), 2), fixed(m.deviation, 2),
+            fixed(m.limit, 1));
     }
+    out << "\nDeviations from a plain computation in double precision are counted in roundings, 2^-24 of the "
+           "magnitude\n"
+           "of a result's terms; the limit is the number of roundings on the way to it.\n";
 }
 
 } // namespace lxpm::mesh

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mesh.h"
+
 #include <chrono>
 #include <cstddef>
 #include <iosfwd>
@@ -17,10 +19,14 @@ struct Measurement {
     std::string_view step;
     std::string_view function;
     std::size_t objects;
-    Seconds time; // of the fastest run
-    bool agrees;
+    Seconds fastest; // run
+    Seconds all;     // runs together
+    double deviation, limit;
+
+    bool agrees() const { return deviation <= limit; }
 };
 
+void printBounds(std::ostream &out, std::string_view when, const Bounds &bounds);
 void printTable(std::ostream &out, const std::vector<Measurement> &measurements);
 
 // 34835 as 34,835.

@@ -1375,6 +1375,672 @@ LxpStatus lxpmSub_cava_64f_P(
     double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
     int len, int count);
 
+/*
+ * Copy: an array from one layout into another, or into the same one.
+ *
+ * Operands. The two letters at the end of a name are the layouts of source and destination: S strided, L object
+ * pointers, P element pointers. Every matrix is height rows of width columns, every vector len elements, every array
+ * count objects.
+ *
+ * Parameters stand in the order source, destination, sizes, count, those of each operand as its own layout has them.
+ *
+ * Bits. Elements are moved, not computed with: every bit pattern arrives as it was, signalling NaN included, and no
+ * floating-point exception is raised.
+ *
+ * Aliasing. dst may be exactly src: same address, same strides or pointers, same layout. Any other overlap of dst with
+ * src gives undefined results.
+ *
+ * Threads. Calls that touch 60,000 elements or more, each one that is read and each one that is written counted, share
+ * their objects out among ownGetNumThreads() threads.
+ *
+ * Status. lxpStatusOk, or the first failing check, in this order:
+ *
+ *   lxpStatusNullPtrErr    a pointer, or a pointer array, is null
+ *   lxpStatusSizeErr       width, height or len < 1
+ *   lxpStatusCountErr      count < 1
+ *   lxpStatusStrideErr     a stride of an S or L operand < 1 or not a multiple of the element size
+ *   lxpStatusRoiShiftErr   a pointer offset < 0 or not a multiple of the element size
+ *   lxpStatusStrideErr     the object stride of a P operand < 1 or not a multiple of the element size; with a count of 1
+ *                          it is neither checked nor used
+ */
+
+/* dst[k] = src[k] */
+LxpStatus lxpmCopy_va_32f_SS(
+    const float *src, int srcObjStride, int srcElemStride,
+    float *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_32f_SL(
+    const float *src, int srcObjStride, int srcElemStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_32f_SP(
+    const float *src, int srcObjStride, int srcElemStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_32f_LS(
+    const float *const *srcPtrs, int srcPtrOffset, int srcElemStride,
+    float *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_32f_LL(
+    const float *const *srcPtrs, int srcPtrOffset, int srcElemStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_32f_LP(
+    const float *const *srcPtrs, int srcPtrOffset, int srcElemStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_32f_PS(
+    const float *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    float *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_32f_PL(
+    const float *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_32f_PP(
+    const float *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_64f_SS(
+    const double *src, int srcObjStride, int srcElemStride,
+    double *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_64f_SL(
+    const double *src, int srcObjStride, int srcElemStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_64f_SP(
+    const double *src, int srcObjStride, int srcElemStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_64f_LS(
+    const double *const *srcPtrs, int srcPtrOffset, int srcElemStride,
+    double *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_64f_LL(
+    const double *const *srcPtrs, int srcPtrOffset, int srcElemStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_64f_LP(
+    const double *const *srcPtrs, int srcPtrOffset, int srcElemStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_64f_PS(
+    const double *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    double *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_64f_PL(
+    const double *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmCopy_va_64f_PP(
+    const double *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+
+/* dst[k] = src[k] */
+LxpStatus lxpmCopy_ma_32f_SS(
+    const float *src, int srcObjStride, int srcRowStride, int srcElemStride,
+    float *dst, int dstObjStride, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_32f_SL(
+    const float *src, int srcObjStride, int srcRowStride, int srcElemStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_32f_SP(
+    const float *src, int srcObjStride, int srcRowStride, int srcElemStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_32f_LS(
+    const float *const *srcPtrs, int srcPtrOffset, int srcRowStride, int srcElemStride,
+    float *dst, int dstObjStride, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_32f_LL(
+    const float *const *srcPtrs, int srcPtrOffset, int srcRowStride, int srcElemStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_32f_LP(
+    const float *const *srcPtrs, int srcPtrOffset, int srcRowStride, int srcElemStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_32f_PS(
+    const float *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    float *dst, int dstObjStride, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_32f_PL(
+    const float *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_32f_PP(
+    const float *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_64f_SS(
+    const double *src, int srcObjStride, int srcRowStride, int srcElemStride,
+    double *dst, int dstObjStride, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_64f_SL(
+    const double *src, int srcObjStride, int srcRowStride, int srcElemStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_64f_SP(
+    const double *src, int srcObjStride, int srcRowStride, int srcElemStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_64f_LS(
+    const double *const *srcPtrs, int srcPtrOffset, int srcRowStride, int srcElemStride,
+    double *dst, int dstObjStride, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_64f_LL(
+    const double *const *srcPtrs, int srcPtrOffset, int srcRowStride, int srcElemStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_64f_LP(
+    const double *const *srcPtrs, int srcPtrOffset, int srcRowStride, int srcElemStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_64f_PS(
+    const double *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    double *dst, int dstObjStride, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_64f_PL(
+    const double *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmCopy_ma_64f_PP(
+    const double *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int width, int height, int count);
+
+/*
+ * Extract: an object, or an array of them, into plain dense memory.
+ *
+ * Operands. src is a matrix of height rows of width columns, a vector of len elements, or an array of count of them. A
+ * matrix with code t is read transposed: it is stored as width rows of height columns, and its strides (its pointers in
+ * the _P layout) describe it as it is stored; width and height are those of the result. dst points to the first element
+ * of the result: rows without gaps between them, objects one behind the other.
+ *
+ * Parameters stand in the order source, destination, sizes, count.
+ *
+ * Bits. As for Copy.
+ *
+ * Aliasing. An overlap of dst with src gives undefined results.
+ *
+ * Threads. As for Copy; single objects never use them.
+ *
+ * Status. lxpStatusOk, or the first failing check:
+ *
+ *   lxpStatusNullPtrErr    a pointer, or a pointer array, is null
+ *   lxpStatusSizeErr       width, height or len < 1
+ *   lxpStatusCountErr      count < 1
+ *   lxpStatusStrideErr     a stride < 1 or not a multiple of the element size
+ *   lxpStatusRoiShiftErr   a pointer offset < 0 or not a multiple of the element size
+ *
+ *   in the order                                        for
+ *   pointers, sizes, count, strides                     arrays, strided
+ *   pointers, sizes, count, offsets, strides            arrays, _L and _P
+ *   pointers, sizes, strides                            single objects, strided
+ *   sizes, pointers, offsets                            single objects, _P
+ */
+
+/* dst = src */
+LxpStatus lxpmExtract_v_32f(
+    const float *src, int srcElemStride,
+    float *dst,
+    int len);
+LxpStatus lxpmExtract_v_32f_P(
+    const float *const *srcPtrs, int srcPtrOffset,
+    float *dst,
+    int len);
+LxpStatus lxpmExtract_v_64f(
+    const double *src, int srcElemStride,
+    double *dst,
+    int len);
+LxpStatus lxpmExtract_v_64f_P(
+    const double *const *srcPtrs, int srcPtrOffset,
+    double *dst,
+    int len);
+
+/* dst = src */
+LxpStatus lxpmExtract_m_32f(
+    const float *src, int srcRowStride, int srcElemStride,
+    float *dst,
+    int width, int height);
+LxpStatus lxpmExtract_m_32f_P(
+    const float *const *srcPtrs, int srcPtrOffset,
+    float *dst,
+    int width, int height);
+LxpStatus lxpmExtract_m_64f(
+    const double *src, int srcRowStride, int srcElemStride,
+    double *dst,
+    int width, int height);
+LxpStatus lxpmExtract_m_64f_P(
+    const double *const *srcPtrs, int srcPtrOffset,
+    double *dst,
+    int width, int height);
+
+/* dst = transpose(src) */
+LxpStatus lxpmExtract_t_32f(
+    const float *src, int srcRowStride, int srcElemStride,
+    float *dst,
+    int width, int height);
+LxpStatus lxpmExtract_t_32f_P(
+    const float *const *srcPtrs, int srcPtrOffset,
+    float *dst,
+    int width, int height);
+LxpStatus lxpmExtract_t_64f(
+    const double *src, int srcRowStride, int srcElemStride,
+    double *dst,
+    int width, int height);
+LxpStatus lxpmExtract_t_64f_P(
+    const double *const *srcPtrs, int srcPtrOffset,
+    double *dst,
+    int width, int height);
+
+/* dst[k] = src[k] */
+LxpStatus lxpmExtract_va_32f(
+    const float *src, int srcObjStride, int srcElemStride,
+    float *dst,
+    int len, int count);
+LxpStatus lxpmExtract_va_32f_L(
+    const float *const *srcPtrs, int srcPtrOffset, int srcElemStride,
+    float *dst,
+    int len, int count);
+LxpStatus lxpmExtract_va_32f_P(
+    const float *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    float *dst,
+    int len, int count);
+LxpStatus lxpmExtract_va_64f(
+    const double *src, int srcObjStride, int srcElemStride,
+    double *dst,
+    int len, int count);
+LxpStatus lxpmExtract_va_64f_L(
+    const double *const *srcPtrs, int srcPtrOffset, int srcElemStride,
+    double *dst,
+    int len, int count);
+LxpStatus lxpmExtract_va_64f_P(
+    const double *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    double *dst,
+    int len, int count);
+
+/* dst[k] = src[k] */
+LxpStatus lxpmExtract_ma_32f(
+    const float *src, int srcObjStride, int srcRowStride, int srcElemStride,
+    float *dst,
+    int width, int height, int count);
+LxpStatus lxpmExtract_ma_32f_L(
+    const float *const *srcPtrs, int srcPtrOffset, int srcRowStride, int srcElemStride,
+    float *dst,
+    int width, int height, int count);
+LxpStatus lxpmExtract_ma_32f_P(
+    const float *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    float *dst,
+    int width, int height, int count);
+LxpStatus lxpmExtract_ma_64f(
+    const double *src, int srcObjStride, int srcRowStride, int srcElemStride,
+    double *dst,
+    int width, int height, int count);
+LxpStatus lxpmExtract_ma_64f_L(
+    const double *const *srcPtrs, int srcPtrOffset, int srcRowStride, int srcElemStride,
+    double *dst,
+    int width, int height, int count);
+LxpStatus lxpmExtract_ma_64f_P(
+    const double *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    double *dst,
+    int width, int height, int count);
+
+/* dst[k] = transpose(src[k]) */
+LxpStatus lxpmExtract_ta_32f(
+    const float *src, int srcObjStride, int srcRowStride, int srcElemStride,
+    float *dst,
+    int width, int height, int count);
+LxpStatus lxpmExtract_ta_32f_L(
+    const float *const *srcPtrs, int srcPtrOffset, int srcRowStride, int srcElemStride,
+    float *dst,
+    int width, int height, int count);
+LxpStatus lxpmExtract_ta_32f_P(
+    const float *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    float *dst,
+    int width, int height, int count);
+LxpStatus lxpmExtract_ta_64f(
+    const double *src, int srcObjStride, int srcRowStride, int srcElemStride,
+    double *dst,
+    int width, int height, int count);
+LxpStatus lxpmExtract_ta_64f_L(
+    const double *const *srcPtrs, int srcPtrOffset, int srcRowStride, int srcElemStride,
+    double *dst,
+    int width, int height, int count);
+LxpStatus lxpmExtract_ta_64f_P(
+    const double *const *srcPtrs, int srcPtrOffset, int srcObjStride,
+    double *dst,
+    int width, int height, int count);
+
+/*
+ * LoadIdentity: ones where row equals column, zeros elsewhere.
+ *
+ * Operands. dst is an array of count matrices of height rows of width columns; they need not be square.
+ *
+ * Threads. As for Copy.
+ *
+ * Status. lxpStatusOk, or the first failing check, in this order:
+ *
+ *   lxpStatusNullPtrErr    the pointer, or the pointer array, is null
+ *   lxpStatusSizeErr       width or height < 1
+ *   lxpStatusCountErr      count < 1
+ *   lxpStatusStrideErr     a stride < 1 or not a multiple of the element size
+ *   lxpStatusRoiShiftErr   the pointer offset < 0 or not a multiple of the element size
+ */
+
+/* dst[k] = identity */
+LxpStatus lxpmLoadIdentity_ma_32f(
+    float *dst, int dstObjStride, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmLoadIdentity_ma_32f_L(
+    float *const *dstPtrs, int dstPtrOffset, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmLoadIdentity_ma_32f_P(
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int width, int height, int count);
+LxpStatus lxpmLoadIdentity_ma_64f(
+    double *dst, int dstObjStride, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmLoadIdentity_ma_64f_L(
+    double *const *dstPtrs, int dstPtrOffset, int dstRowStride, int dstElemStride,
+    int width, int height, int count);
+LxpStatus lxpmLoadIdentity_ma_64f_P(
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int width, int height, int count);
+
+/*
+ * Saxpy and LComb: a vector times a constant plus another vector, and the sum of two vectors times a constant each.
+ *
+ * Operands. Every vector is len elements, every array count objects. A single vector beside an array is used with every
+ * object of the array. The constants are passed by value and are the same for all objects.
+ *
+ * Parameters stand in the order first source, its constant, second source (LComb: its constant), destination, len,
+ * count.
+ *
+ * Bits. Each product and each sum is one IEEE operation in the element type, rounded by itself; whatever the layout,
+ * the strides, the number of objects or of threads, the bits are the same. (Of two NaN operands, which one's payload
+ * survives is left to the processor.)
+ *
+ * Aliasing. dst may be exactly a source of the same kind: same address, same strides or pointers, same layout. Any
+ * other overlap of dst with a source gives undefined results.
+ *
+ * Threads. Array forms that touch 60,000 elements or more (those of arrays counted once for each object, those of
+ * single vectors once) share their objects out among ownGetNumThreads() threads; single objects never do.
+ *
+ * Status. lxpStatusOk, or the first failing check, in this order:
+ *
+ *   lxpStatusNullPtrErr    a pointer, or a pointer array, is null
+ *   lxpStatusCountErr      count < 1
+ *   lxpStatusSizeErr       len < 1
+ *   lxpStatusStrideErr     a stride < 1 or not a multiple of the element size
+ *   lxpStatusRoiShiftErr   a pointer offset < 0 or not a multiple of the element size
+ */
+
+/* Saxpy */
+
+/* dst = (val * src1) + src2 */
+LxpStatus lxpmSaxpy_vv_32f(
+    const float *src1, int src1ElemStride,
+    float val,
+    const float *src2, int src2ElemStride,
+    float *dst, int dstElemStride,
+    int len);
+LxpStatus lxpmSaxpy_vv_32f_P(
+    const float *const *src1Ptrs, int src1PtrOffset,
+    float val,
+    const float *const *src2Ptrs, int src2PtrOffset,
+    float *const *dstPtrs, int dstPtrOffset,
+    int len);
+LxpStatus lxpmSaxpy_vv_64f(
+    const double *src1, int src1ElemStride,
+    double val,
+    const double *src2, int src2ElemStride,
+    double *dst, int dstElemStride,
+    int len);
+LxpStatus lxpmSaxpy_vv_64f_P(
+    const double *const *src1Ptrs, int src1PtrOffset,
+    double val,
+    const double *const *src2Ptrs, int src2PtrOffset,
+    double *const *dstPtrs, int dstPtrOffset,
+    int len);
+
+/* dst[k] = (val * src1[k]) + src2 */
+LxpStatus lxpmSaxpy_vav_32f(
+    const float *src1, int src1ObjStride, int src1ElemStride,
+    float val,
+    const float *src2, int src2ElemStride,
+    float *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vav_32f_L(
+    const float *const *src1Ptrs, int src1PtrOffset, int src1ElemStride,
+    float val,
+    const float *src2, int src2ElemStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vav_32f_P(
+    const float *const *src1Ptrs, int src1PtrOffset, int src1ObjStride,
+    float val,
+    const float *const *src2Ptrs, int src2PtrOffset,
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vav_64f(
+    const double *src1, int src1ObjStride, int src1ElemStride,
+    double val,
+    const double *src2, int src2ElemStride,
+    double *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vav_64f_L(
+    const double *const *src1Ptrs, int src1PtrOffset, int src1ElemStride,
+    double val,
+    const double *src2, int src2ElemStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vav_64f_P(
+    const double *const *src1Ptrs, int src1PtrOffset, int src1ObjStride,
+    double val,
+    const double *const *src2Ptrs, int src2PtrOffset,
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+
+/* dst[k] = (val * src1) + src2[k] */
+LxpStatus lxpmSaxpy_vva_32f(
+    const float *src1, int src1ElemStride,
+    float val,
+    const float *src2, int src2ObjStride, int src2ElemStride,
+    float *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vva_32f_L(
+    const float *src1, int src1ElemStride,
+    float val,
+    const float *const *src2Ptrs, int src2PtrOffset, int src2ElemStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vva_32f_P(
+    const float *const *src1Ptrs, int src1PtrOffset,
+    float val,
+    const float *const *src2Ptrs, int src2PtrOffset, int src2ObjStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vva_64f(
+    const double *src1, int src1ElemStride,
+    double val,
+    const double *src2, int src2ObjStride, int src2ElemStride,
+    double *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vva_64f_L(
+    const double *src1, int src1ElemStride,
+    double val,
+    const double *const *src2Ptrs, int src2PtrOffset, int src2ElemStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vva_64f_P(
+    const double *const *src1Ptrs, int src1PtrOffset,
+    double val,
+    const double *const *src2Ptrs, int src2PtrOffset, int src2ObjStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+
+/* dst[k] = (val * src1[k]) + src2[k] */
+LxpStatus lxpmSaxpy_vava_32f(
+    const float *src1, int src1ObjStride, int src1ElemStride,
+    float val,
+    const float *src2, int src2ObjStride, int src2ElemStride,
+    float *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vava_32f_L(
+    const float *const *src1Ptrs, int src1PtrOffset, int src1ElemStride,
+    float val,
+    const float *const *src2Ptrs, int src2PtrOffset, int src2ElemStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vava_32f_P(
+    const float *const *src1Ptrs, int src1PtrOffset, int src1ObjStride,
+    float val,
+    const float *const *src2Ptrs, int src2PtrOffset, int src2ObjStride,
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vava_64f(
+    const double *src1, int src1ObjStride, int src1ElemStride,
+    double val,
+    const double *src2, int src2ObjStride, int src2ElemStride,
+    double *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vava_64f_L(
+    const double *const *src1Ptrs, int src1PtrOffset, int src1ElemStride,
+    double val,
+    const double *const *src2Ptrs, int src2PtrOffset, int src2ElemStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmSaxpy_vava_64f_P(
+    const double *const *src1Ptrs, int src1PtrOffset, int src1ObjStride,
+    double val,
+    const double *const *src2Ptrs, int src2PtrOffset, int src2ObjStride,
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+
+/* LComb */
+
+/* dst = (val1 * src1) + (val2 * src2) */
+LxpStatus lxpmLComb_vv_32f(
+    const float *src1, int src1ElemStride,
+    float val1,
+    const float *src2, int src2ElemStride,
+    float val2,
+    float *dst, int dstElemStride,
+    int len);
+LxpStatus lxpmLComb_vv_32f_P(
+    const float *const *src1Ptrs, int src1PtrOffset,
+    float val1,
+    const float *const *src2Ptrs, int src2PtrOffset,
+    float val2,
+    float *const *dstPtrs, int dstPtrOffset,
+    int len);
+LxpStatus lxpmLComb_vv_64f(
+    const double *src1, int src1ElemStride,
+    double val1,
+    const double *src2, int src2ElemStride,
+    double val2,
+    double *dst, int dstElemStride,
+    int len);
+LxpStatus lxpmLComb_vv_64f_P(
+    const double *const *src1Ptrs, int src1PtrOffset,
+    double val1,
+    const double *const *src2Ptrs, int src2PtrOffset,
+    double val2,
+    double *const *dstPtrs, int dstPtrOffset,
+    int len);
+
+/* dst[k] = (val1 * src1[k]) + (val2 * src2) */
+LxpStatus lxpmLComb_vav_32f(
+    const float *src1, int src1ObjStride, int src1ElemStride,
+    float val1,
+    const float *src2, int src2ElemStride,
+    float val2,
+    float *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmLComb_vav_32f_L(
+    const float *const *src1Ptrs, int src1PtrOffset, int src1ElemStride,
+    float val1,
+    const float *src2, int src2ElemStride,
+    float val2,
+    float *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmLComb_vav_32f_P(
+    const float *const *src1Ptrs, int src1PtrOffset, int src1ObjStride,
+    float val1,
+    const float *const *src2Ptrs, int src2PtrOffset,
+    float val2,
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+LxpStatus lxpmLComb_vav_64f(
+    const double *src1, int src1ObjStride, int src1ElemStride,
+    double val1,
+    const double *src2, int src2ElemStride,
+    double val2,
+    double *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmLComb_vav_64f_L(
+    const double *const *src1Ptrs, int src1PtrOffset, int src1ElemStride,
+    double val1,
+    const double *src2, int src2ElemStride,
+    double val2,
+    double *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmLComb_vav_64f_P(
+    const double *const *src1Ptrs, int src1PtrOffset, int src1ObjStride,
+    double val1,
+    const double *const *src2Ptrs, int src2PtrOffset,
+    double val2,
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+
+/* dst[k] = (val1 * src1[k]) + (val2 * src2[k]) */
+LxpStatus lxpmLComb_vava_32f(
+    const float *src1, int src1ObjStride, int src1ElemStride,
+    float val1,
+    const float *src2, int src2ObjStride, int src2ElemStride,
+    float val2,
+    float *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmLComb_vava_32f_L(
+    const float *const *src1Ptrs, int src1PtrOffset, int src1ElemStride,
+    float val1,
+    const float *const *src2Ptrs, int src2PtrOffset, int src2ElemStride,
+    float val2,
+    float *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmLComb_vava_32f_P(
+    const float *const *src1Ptrs, int src1PtrOffset, int src1ObjStride,
+    float val1,
+    const float *const *src2Ptrs, int src2PtrOffset, int src2ObjStride,
+    float val2,
+    float *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+LxpStatus lxpmLComb_vava_64f(
+    const double *src1, int src1ObjStride, int src1ElemStride,
+    double val1,
+    const double *src2, int src2ObjStride, int src2ElemStride,
+    double val2,
+    double *dst, int dstObjStride, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmLComb_vava_64f_L(
+    const double *const *src1Ptrs, int src1PtrOffset, int src1ElemStride,
+    double val1,
+    const double *const *src2Ptrs, int src2PtrOffset, int src2ElemStride,
+    double val2,
+    double *const *dstPtrs, int dstPtrOffset, int dstElemStride,
+    int len, int count);
+LxpStatus lxpmLComb_vava_64f_P(
+    const double *const *src1Ptrs, int src1PtrOffset, int src1ObjStride,
+    double val1,
+    const double *const *src2Ptrs, int src2PtrOffset, int src2ObjStride,
+    double val2,
+    double *const *dstPtrs, int dstPtrOffset, int dstObjStride,
+    int len, int count);
+
 /* clang-format on */
 
 #ifdef __cplusplus

@@ -14,6 +14,7 @@
 #include <array>
 #include <cstddef>
 #include <type_traits>
+#include <utility>
 
 namespace lxpm {
 
@@ -45,6 +46,23 @@ public:
         later.offset += object * step[0] + row * step[1] + column * step[2];
         return later;
     }
+
+    // The same elements with rows and columns exchanged.
+    Addresses transposed() const {
+        Addresses other = *this;
+        std::swap(other.step[1], other.step[2]);
+        std::swap(other.pointerStep[1], other.pointerStep[2]);
+        return other;
+    }
+
+    // One object, used with every object of the other operands.
+    bool isSingle() const { return step[0] == 0 && pointerStep[0] == 0; }
+
+    // Whether the elements of an object stand at byte distances from its first one.
+    bool movesByBytes() const { return pointerStep[1] == 0 && pointerStep[2] == 0; }
+
+    // Whether the elements of a row touch.
+    bool rowsTouch() const { return pointerStep[2] == 0 && step[2] == static_cast<std::ptrdiff_t>(sizeof(Element)); }
 
     Element *at(std::ptrdiff_t object, std::ptrdiff_t row, std::ptrdiff_t column) const {
         const std::ptrdiff_t pointer = object * pointerStep[0] + row * pointerStep[1] + column * pointerStep[2];

@@ -12,7 +12,8 @@
 
 namespace lxpm {
 
-enum class Check { Pointers, Count, Sizes, SizeMatch, Strides, Offsets };
+// LateStrides: those that a family looks at apart from the others.
+enum class Check { Pointers, Count, Sizes, SizeMatch, Strides, Offsets, LateStrides };
 
 constexpr LxpStatus statusOf(Check check) {
     switch (check) {
@@ -25,6 +26,7 @@ constexpr LxpStatus statusOf(Check check) {
     case Check::SizeMatch:
         return lxpStatusSizeMatchErr;
     case Check::Strides:
+    case Check::LateStrides:
         return lxpStatusStrideErr;
     case Check::Offsets:
         return lxpStatusRoiShiftErr;

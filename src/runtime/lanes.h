@@ -10,14 +10,27 @@
 // estimates.
 
 #include <array>
+#include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <immintrin.h>
+#include <utility>
 
 namespace lxpm {
 
 // The lanes of a whole 256-bit register.
 template <class T>
 inline constexpr int fullLanes = 32 / static_cast<int>(sizeof(T));
+
+template <class T, int N>
+struct Lanes;
+
+// A whole register of elements; as many objects of an array, one in each lane.
+template <class T>
+using Group = Lanes<T, fullLanes<T>>;
+
+template <class T>
+inline constexpr int groupSize = fullLanes<T>;
 
 template <class T, int N>
 struct Lanes {
@@ -30,17 +43,18 @@ struct Lanes {
 
     static Lanes load(const T *from) { return {reinterpret_cast<const Unaligned *>(from)->vector}; }
     void store(T *to) const { reinterpret_cast<Unaligned *>(to)->vector = vector; }
+    // One broadcast: as a list, not as a loop, of which the compiler would make insertions where it unrolls another.
     static Lanes splat(T value) {
-        Lanes lanes;
-        for (int i = 0; i < N; ++i) { // one broadcast instruction
-            lanes.vector[i] = value;
+        return [value]<std::size_t... lane>(std::index_sequence<lane...>) __attribute__((always_inline)) {
+            return Lanes{Vector{((void)lane, value)...}};
         }
-        return lanes;
+        (std::make_index_sequence<N>());
     }
 
     friend Lanes operator+(Lanes a, Lanes b) { return {a.vector + b.vector}; }
     friend Lanes operator-(Lanes a, Lanes b) { return {a.vector - b.vector}; }
     friend Lanes operator*(Lanes a, Lanes b) { return {a.vector * b.vector}; }
+    friend Lanes operator*(T a, Lanes b) { return splat(a) * b; }
     friend Lanes operator/(Lanes a, Lanes b) { return {a.vector / b.vector}; }
 };
 
@@ -136,6 +150,149 @@ inline std::array<Lanes<double, 4>, 2> transposeDense3(const double *matrix) {
     const __m128d d = _mm_loadu_pd(matrix + 6);                                            // 6 7
     return {{{_mm256_set_m128d(_mm_shuffle_pd(d, a, 0b10), _mm_shuffle_pd(a, b, 0b10))},   // 0 3 | 6 1
              {_mm256_set_m128d(_mm_shuffle_pd(b, c, 0b10), _mm_shuffle_pd(c, d, 0b10))}}}; // 4 7 | 2 5
+}
+
+// The two halves of a register from memory.
+inline Lanes<float, 8> loadHalves(const float *low, const float *high) {
+    return {_mm256_insertf128_ps(_mm256_castps128_ps256(_mm_loadu_ps(low)), _mm_loadu_ps(high), 1)};
+}
+
+inline Lanes<double, 4> loadHalves(const double *low, const double *high) {
+    return {_mm256_insertf128_pd(_mm256_castpd128_pd256(_mm_loadu_pd(low)), _mm_loadu_pd(high), 1)};
+}
+
+inline Lanes<float, 8> joined(Lanes<float, 4> low, Lanes<float, 4> high) {
+    return {_mm256_insertf128_ps(_mm256_castps128_ps256(low.vector), high.vector, 1)};
+}
+
+inline Lanes<float, 8> bothHalves(const float *from) {
+    return {_mm256_broadcast_ps(reinterpret_cast<const __m128 *>(from))};
+}
+
+inline Lanes<float, 4> lowHalf(Lanes<float, 8> lanes) {
+    return {_mm256_castps256_ps128(lanes.vector)};
+}
+
+inline Lanes<float, 4> highHalf(Lanes<float, 8> lanes) {
+    return {_mm256_extractf128_ps(lanes.vector, 1)};
+}
+
+// One element from memory in all lanes.
+inline Lanes<float, 8> broadcast(const float *from) {
+    return {_mm256_broadcast_ss(from)};
+}
+
+inline Lanes<double, 4> broadcast(const double *from) {
+    return {_mm256_broadcast_sd(from)};
+}
+
+// The first n lanes from memory, fewer than all, the others 0. No other memory is touched.
+template <class T>
+inline Lanes<T, fullLanes<T>> loadSome(const T *from, std::ptrdiff_t n) {
+    static constexpr std::int32_t masks[16] = {-1, -1, -1, -1, -1, -1, -1, -1};
+    const auto *mask = masks + 8 - n * (8 / fullLanes<T>);
+    const __m256i lanes = _mm256_loadu_si256(reinterpret_cast<const __m256i *>(mask));
+    if constexpr (sizeof(T) == sizeof(float)) {
+        return {_mm256_maskload_ps(from, lanes)};
+    } else {
+        return {_mm256_maskload_pd(from, lanes)};
+    }
+}
+
+// The IEEE square root.
+inline float root(float x) {
+    return std::sqrt(x);
+}
+
+inline double root(double x) {
+    return std::sqrt(x);
+}
+
+inline Lanes<float, 8> root(Lanes<float, 8> x) {
+    return {_mm256_sqrt_ps(x.vector)};
+}
+
+inline Lanes<double, 4> root(Lanes<double, 4> x) {
+    return {_mm256_sqrt_pd(x.vector)};
+}
+
+// Rows become columns in each half by itself.
+inline void transposeHalves(std::array<Lanes<float, 8>, 4> &r) {
+    const __m256 low01 = _mm256_unpacklo_ps(r[0].vector, r[1].vector);  // 00 10 01 11
+    const __m256 low23 = _mm256_unpacklo_ps(r[2].vector, r[3].vector);  // 20 30 21 31
+    const __m256 high01 = _mm256_unpackhi_ps(r[0].vector, r[1].vector); // 02 12 03 13
+    const __m256 high23 = _mm256_unpackhi_ps(r[2].vector, r[3].vector); // 22 32 23 33
+    r[0].vector = _mm256_shuffle_ps(low01, low23, 0x44);                // 00 10 20 30
+    r[1].vector = _mm256_shuffle_ps(low01, low23, 0xee);                // 01 11 21 31
+    r[2].vector = _mm256_shuffle_ps(high01, high23, 0x44);              // 02 12 22 32
+    r[3].vector = _mm256_shuffle_ps(high01, high23, 0xee);              // 03 13 23 33
+}
+
+inline void transposeHalves(std::array<Lanes<double, 4>, 2> &r) {
+    const __m256d first = _mm256_unpacklo_pd(r[0].vector, r[1].vector);
+    r[1].vector = _mm256_unpackhi_pd(r[0].vector, r[1].vector);
+    r[0].vector = first;
+}
+
+// Four lanes with the second and the last one exchanged; and those of `others` with the third one of `third`.
+inline Lanes<float, 4> withElements1And3Exchanged(Lanes<float, 4> x) {
+    return {_mm_permute_ps(x.vector, 0x6c)};
+}
+
+inline Lanes<double, 4> withElements1And3Exchanged(Lanes<double, 4> x) {
+    return {_mm256_blend_pd(x.vector, _mm256_permute2f128_pd(x.vector, x.vector, 0x01), 0xa)};
+}
+
+inline Lanes<float, 4> withElement2Of(Lanes<float, 4> third, Lanes<float, 4> others) {
+    return {_mm_blend_ps(others.vector, third.vector, 0x4)};
+}
+
+inline Lanes<double, 4> withElement2Of(Lanes<double, 4> third, Lanes<double, 4> others) {
+    return {_mm256_blend_pd(others.vector, third.vector, 0x4)};
+}
+
+// The sum over the lanes of each of several registers, as
+//
+//     ((x0 + x4) + (x2 + x6)) + ((x1 + x5) + (x3 + x7))    or    (x0 + x2) + (x1 + x3)
+inline Lanes<float, 8> sumsOverLanes(const std::array<Lanes<float, 8>, 8> &r) {
+    const auto halves = [&](int a, int b) { // sums of halves: those of a | those of b
+        return _mm256_add_ps(_mm256_permute2f128_ps(r[a].vector, r[b].vector, 0x20),
+                             _mm256_permute2f128_ps(r[a].vector, r[b].vector, 0x31));
+    };
+    const auto quarters = [&](__m256 a, __m256 b) { // in each half: two of a, two of b
+        return _mm256_add_ps(_mm256_shuffle_ps(a, b, 0x44), _mm256_shuffle_ps(a, b, 0xee));
+    };
+    const __m256 even = quarters(halves(0, 4), halves(1, 5)); // 0 0 1 1 | 4 4 5 5
+    const __m256 odd = quarters(halves(2, 6), halves(3, 7));  // 2 2 3 3 | 6 6 7 7
+    return {_mm256_add_ps(_mm256_shuffle_ps(even, odd, 0x88), _mm256_shuffle_ps(even, odd, 0xdd))};
+}
+
+inline Lanes<double, 4> sumsOverLanes(const std::array<Lanes<double, 4>, 4> &r) {
+    const auto halves = [&](int a, int b) {
+        return _mm256_add_pd(_mm256_permute2f128_pd(r[a].vector, r[b].vector, 0x20),
+                             _mm256_permute2f128_pd(r[a].vector, r[b].vector, 0x31));
+    };
+    const __m256d even = halves(0, 2); // 0 0 | 2 2
+    const __m256d odd = halves(1, 3);  // 1 1 | 3 3
+    return {_mm256_add_pd(_mm256_unpacklo_pd(even, odd), _mm256_unpackhi_pd(even, odd))};
+}
+
+// The same sum of one register.
+inline float sumOverLanes(Lanes<float, 8> x) {
+    const __m128 halves = _mm_add_ps(_mm256_castps256_ps128(x.vector), _mm256_extractf128_ps(x.vector, 1));
+    const __m128 quarters = _mm_add_ps(halves, _mm_movehl_ps(halves, halves));
+    return _mm_cvtss_f32(_mm_add_ss(quarters, _mm_movehdup_ps(quarters)));
+}
+
+inline double sumOverLanes(Lanes<double, 4> x) {
+    const __m128d halves = _mm_add_pd(_mm256_castpd256_pd128(x.vector), _mm256_extractf128_pd(x.vector, 1));
+    return _mm_cvtsd_f64(_mm_add_sd(halves, _mm_unpackhi_pd(halves, halves)));
+}
+
+// In each half, the lanes a, b, c, d of that half.
+template <int a, int b, int c, int d>
+inline Lanes<float, 8> chosenInHalves(Lanes<float, 8> lanes) {
+    return {_mm256_permute_ps(lanes.vector, a | b << 2 | c << 4 | d << 6)};
 }
 
 } // namespace lxpm

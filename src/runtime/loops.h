@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstring>
 #include <type_traits>
 #include <utility>
 
@@ -98,6 +99,11 @@ private:
     // has no constant beside it.)
     template <Moves... moves>
     static Loop chooseLength(std::ptrdiff_t n) {
+        if constexpr (std::is_same_v<F, Same> && ((moves == Moves::Along) && ...)) {
+            if (n * std::ptrdiff_t(sizeof(T)) >= longRun) {
+                return asBytes;
+            }
+        }
         switch (n) {
         case 3:
             return inRegisters<3, moves...>;
@@ -126,6 +132,20 @@ private:
     template <int Length, Moves... moves>
     static void inRegisters(const F &f, const Nest &nest) {
         overRuns<true, 0, Length, moves...>(f, nest, Index());
+    }
+
+    // Long runs are copied by the C library, which aligns its stores and streams them past the caches where they are
+    // too many. The destination may be the source.
+    static constexpr std::ptrdiff_t longRun = 256; // bytes
+
+    static void asBytes(const F &, const Nest &shared) {
+        const Nest nest = shared;
+        const auto &[dst, src] = nest.operand;
+        for (std::ptrdiff_t i = 0; i < nest.extent[0]; ++i) {
+            for (std::ptrdiff_t j = 0; j < nest.extent[1]; ++j) {
+                std::memmove(dst.at(i, j, 0), src[0].at(i, j, 0), nest.extent[2] * sizeof(T));
+            }
+        }
     }
 
     // Transposed.

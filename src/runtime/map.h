@@ -8,6 +8,7 @@
 
 #include "runtime/loops.h"
 #include "runtime/nest.h"
+#include "runtime/one_object.h"
 #include "runtime/parallel.h"
 
 #include <algorithm>
@@ -90,7 +91,7 @@ public:
 
         nest.extent = {1, objects / objectsPerTile, objectsPerTile * n};
         if (staysLoaded) {
-            chooseLoaded<F, 0>(tiled, registers)(f, nest, tile);
+            chooseLoaded<F>(tiled, registers)(f, nest, tile);
         } else {
             Loops::choose(nest)(f, nest);
         }
@@ -130,24 +131,22 @@ private:
     using Loop = void (*)(const F &, const Nest<T, sources> &, const T *);
 
     // The loop for a tile of so many registers in the place of one source.
-    template <class F, std::size_t source>
+    template <class F>
     static Loop<F> chooseLoaded(std::size_t tiled, std::ptrdiff_t registers) {
-        if constexpr (source < sources) {
-            return source == tiled ? chooseRegisters<F, source, 1>(registers)
-                                   : chooseLoaded<F, source + 1>(tiled, registers);
-        } else {
-            return nullptr; // one of them is tiled
+        Loop<F> loop = nullptr;
+        [&]<std::size_t... s>(std::index_sequence<s...>) {
+            ((s == tiled ? void(loop = chooseRegisters<F, s>(registers, Registers())) : void()), ...);
         }
+        (std::make_index_sequence<sources>());
+        return loop;
     }
 
-    template <class F, std::size_t source, int registers>
-    static Loop<F> chooseRegisters(std::ptrdiff_t wanted) {
-        if constexpr (registers < mostRegisters) {
-            return wanted == registers ? overLoaded<F, source, registers>
-                                       : chooseRegisters<F, source, registers + 1>(wanted);
-        } else {
-            return overLoaded<F, source, registers>;
-        }
+    using Registers = std::make_integer_sequence<int, mostRegisters>;
+
+    template <class F, std::size_t tiled, int... less>
+    static Loop<F> chooseRegisters(std::ptrdiff_t registers, std::integer_sequence<int, less...>) {
+        static constexpr Loop<F> loops[] = {overLoaded<F, tiled, less + 1>...};
+        return loops[registers - 1];
     }
 
     template <class F, std::size_t tiled, int registers>
@@ -177,9 +176,8 @@ private:
 // The objects of one thread.
 template <class T, class F, std::size_t sources>
 void mapObjects(const F &f, const Extents &extents, const MapOperands<T, sources> &operands) {
-    constexpr std::ptrdiff_t fewElements = 64; // of a single object: not worth a look at its memory
     Nest<T, sources> nest(extents, operands);
-    if (extents.objects == 1 && extents.rows * extents.columns <= fewElements) {
+    if (extents.objects == 1 && isSmall(extents.rows, extents.columns)) {
         nest.isDisjoint = false;
         Loops<T, F, sources>::choose(nest)(f, nest);
         return;

@@ -30,6 +30,19 @@ struct StridedObject {
     Run<std::remove_const_t<Element>, Moves::Along> row(std::ptrdiff_t i) const { return {at(i, 0), columnStep}; }
 };
 
+// One object whose rows' elements are known to touch.
+template <class E>
+struct TouchingObject {
+    using Element = E;
+    Element *first;
+    std::ptrdiff_t rowStep;
+
+    explicit TouchingObject(const StridedObject<Element> &object) : first(object.first), rowStep(object.rowStep) {}
+
+    Element *at(std::ptrdiff_t row, std::ptrdiff_t column) const { return shifted(first, row * rowStep) + column; }
+    static constexpr bool rowsTouch() { return true; }
+};
+
 // One object whose elements have pointers of their own; steps in pointers.
 template <class E>
 struct PointedObject {

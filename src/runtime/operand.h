@@ -172,17 +172,21 @@ public:
         }
     }
 
+    // A constant by value.
+    constexpr Value value() const requires(form == Form::Value) { return lead; }
+
     // A single object, in rows and columns of the operation.
     constexpr auto object([[maybe_unused]] int height = 1, [[maybe_unused]] int width = 1) const requires(!kind.array) {
+        constexpr bool transposed = kind.shape == Shape::Transposed;
         if constexpr (form == Form::Value) {
             return ConstantObject<Value>{lead};
         } else if constexpr (form == Form::ElementPointers) {
-            const PointedObject<Element> stored = {lead, offset(), width, 1};
-            return kind.shape == Shape::Transposed ? PointedObject<Element>{lead, offset(), 1, height} : stored;
+            const PointedObject<Element> stored = {lead, offset(), transposed ? height : width, 1};
+            return transposed ? stored.transposed() : stored;
         } else {
             const StridedObject<Element> stored = {lead, stride(hasRowStride, rowStrideAt),
                                                    stride(hasElemStride, elemStrideAt)};
-            return kind.shape == Shape::Transposed ? stored.transposed() : stored;
+            return transposed ? stored.transposed() : stored;
         }
     }
 
@@ -231,6 +235,29 @@ private:
     std::array<int, integers> integer;
 };
 
+// A destination in plain dense memory, which its first element's address describes: no gaps between elements, rows and
+// objects.
+template <class Element>
+struct DenseDestination {
+    using Parameters = TypeList<Element *>;
+    Element *first;
+
+    explicit constexpr DenseDestination(Element *address) : first(address) {}
+
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
+        return check == Check::Pointers && first == nullptr;
+    }
+
+    constexpr StridedObject<Element> object(int, int width) const {
+        return {first, std::ptrdiff_t(width) * std::ptrdiff_t(sizeof(Element)), sizeof(Element)};
+    }
+
+    constexpr Addresses<Element> addresses(int height, int width) const {
+        const std::ptrdiff_t row = std::ptrdiff_t(width) * std::ptrdiff_t(sizeof(Element));
+        return Addresses<Element>::strided(first, {height * row, row, sizeof(Element)});
+    }
+};
+
 // The sizes of a call.
 template <int N>
 struct Sizes {
@@ -260,6 +287,31 @@ struct VectorLength : Sizes<1> {
     using Sizes::Sizes;
     constexpr int width() const { return size[0]; }
     constexpr int height() const { return 1; }
+};
+
+// A square matrix.
+struct MatrixOrder : Sizes<1> {
+    using Sizes::Sizes;
+    constexpr int width() const { return size[0]; }
+    constexpr int height() const { return size[0]; }
+};
+
+// Numbers one behind the other, in every layout: row numbers, scratch.
+template <class T>
+struct PlainArray {
+    using Parameters = TypeList<T *>;
+    T *first;
+
+    explicit constexpr PlainArray(T *address) : first(address) {}
+    [[gnu::always_inline]] constexpr bool violates(Check check) const {
+        return check == Check::Pointers && first == nullptr;
+    }
+};
+
+// Where scalar results go: one for each object.
+template <class T>
+struct ScalarResults : PlainArray<T> {
+    using PlainArray<T>::PlainArray;
 };
 
 struct Count {

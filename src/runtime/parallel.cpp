@@ -5,6 +5,7 @@
 
 #include "runtime/thread_supply.h"
 
+#include <cstdlib>
 #include <immintrin.h>
 #include <lxpcore.h>
 #include <omp.h>
@@ -27,6 +28,9 @@ private:
     unsigned found;
 };
 
+// Threads that write to one line take it from each other.
+constexpr std::size_t cacheLine = 64;
+
 struct Block {
     int first;
     int count;
@@ -42,11 +46,13 @@ constexpr Block blockOf(int thread, int quotient, int remainder) {
 
 // The team at work. A function of its own, because Clang starts its runtime where a function with a parallel region is
 // entered: a call that stays serial has no need of it, and starting it raises exceptions on the caller.
-[[gnu::noinline]] LxpStatus runTeam(int team, unsigned state, int count, SerialKernel kernel, const void *call) {
+[[gnu::noinline]] LxpStatus runTeam(int team, unsigned state, int count, std::byte *scratch, std::size_t scratchBytes,
+                                    SerialKernel kernel, const void *call) {
     int quotient = 0;
     int remainder = 0;
     LxpStatus result = lxpStatusOk;
-#pragma omp parallel num_threads(team) default(none) shared(quotient, remainder, result, count, kernel, call, state)
+#pragma omp parallel num_threads(team) default(none)                                                                   \
+    shared(quotient, remainder, result, count, scratch, scratchBytes, kernel, call, state)
     {
 #pragma omp master
         {
@@ -55,9 +61,13 @@ constexpr Block blockOf(int thread, int quotient, int remainder) {
             remainder = count % size;
         }
 #pragma omp barrier
-        const Block block = blockOf(omp_get_thread_num(), quotient, remainder);
+        const int thread = omp_get_thread_num();
+        const Block block = blockOf(thread, quotient, remainder);
+        const bool hasOwn = thread > 0 && scratch != nullptr;
+        const Share share = {block.first, block.count, thread,
+                             hasOwn ? scratch + static_cast<std::size_t>(thread - 1) * scratchBytes : nullptr};
         const AsCaller asCaller(state);
-        const LxpStatus status = kernel(call, block.first, block.count);
+        const LxpStatus status = kernel(call, share);
         if (status != lxpStatusOk) {
 #pragma omp critical(lxpm_status)
             if (result == lxpStatusOk) {
@@ -70,14 +80,30 @@ constexpr Block blockOf(int thread, int quotient, int remainder) {
 
 } // namespace
 
-LxpStatus shareOut(int count, SerialKernel kernel, const void *call) noexcept {
+LxpStatus shareOut(int count, std::size_t scratchBytes, SerialKernel kernel, const void *call) noexcept {
+    const Share all = {0, count, 0, nullptr};
     const unsigned state = _mm_getcsr(); // before the runtime is asked anything
     const int threads = ownGetNumThreads();
     if (threads <= 1 || count < threads) {
-        return kernel(call, 0, count);
+        return kernel(call, all);
     }
     // Asked again, because the setting is the caller's to change up to the moment at which the team starts.
-    return runTeam(suppliedThreads(ownGetNumThreads()), state, count, kernel, call);
+    const int team = suppliedThreads(ownGetNumThreads());
+    if (scratchBytes == 0 || team <= 1) {
+        return runTeam(team, state, count, nullptr, 0, kernel, call);
+    }
+    const std::size_t each = (scratchBytes + cacheLine - 1) / cacheLine * cacheLine;
+    std::size_t bytes;
+    if (__builtin_mul_overflow(static_cast<std::size_t>(team - 1), each, &bytes)) {
+        return kernel(call, all);
+    }
+    auto *const scratch = static_cast<std::byte *>(std::aligned_alloc(cacheLine, bytes));
+    if (scratch == nullptr) {
+        return kernel(call, all);
+    }
+    const LxpStatus status = runTeam(team, state, count, scratch, each, kernel, call);
+    std::free(scratch);
+    return status;
 }
 
 } // namespace lxpm

@@ -12,6 +12,15 @@
 
 namespace lxpm {
 
+// The function of copying. Elements go through registers unchanged, signalling NaN too: loads and stores quieten
+// nothing.
+struct Same {
+    template <class Number>
+    Number operator()(Number a) const {
+        return a;
+    }
+};
+
 // How a source moves along a run: its elements touch, or it is one element, or those of other runs touch, or anything.
 enum class Moves { Along, Nowhere, Across, Any };
 

@@ -46,25 +46,26 @@ public:
     void wait() {
         pthread_mutex_lock(&mutex);
         ++waiting;
-        pthread_cond_broadcast(&changed);
+        pthread_cond_signal(&arrived);
         while (!open) {
-            pthread_cond_wait(&changed, &mutex);
+            pthread_cond_wait(&opened, &mutex);
         }
         pthread_mutex_unlock(&mutex);
     }
     void releaseWhenAllWait(int threads) {
         pthread_mutex_lock(&mutex);
         while (waiting < threads) {
-            pthread_cond_wait(&changed, &mutex);
+            pthread_cond_wait(&arrived, &mutex);
         }
         open = true;
-        pthread_cond_broadcast(&changed);
+        pthread_cond_broadcast(&opened);
         pthread_mutex_unlock(&mutex);
     }
 
 private:
     pthread_mutex_t mutex = PTHREAD_MUTEX_INITIALIZER;
-    pthread_cond_t changed = PTHREAD_COND_INITIALIZER;
+    pthread_cond_t arrived = PTHREAD_COND_INITIALIZER;
+    pthread_cond_t opened = PTHREAD_COND_INITIALIZER;
     int waiting = 0;
     bool open = false;
 };

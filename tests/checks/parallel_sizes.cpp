@@ -43,9 +43,9 @@ int firstParallelCount(const Model &model, const Shape &shape, bool isContiguous
 }
 
 Shape firstParallelShape(const Model &model, int count, bool isContiguous) {
-    Shape shape(model.sizes.size(), 1);
-    // Growing in turns keeps matrices nearly square.
-    for (std::size_t turn = 0; !model.parallel->isParallel(shape, count, isContiguous); ++turn) {
+    Shape shape(model.dimensions(), 1);
+    // Growing in turns keeps matrices nearly square. What has one size only does not grow.
+    for (std::size_t turn = 0; !shape.empty() && !model.parallel->isParallel(shape, count, isContiguous); ++turn) {
         ++shape[turn % shape.size()];
     }
     return shape;
@@ -69,7 +69,10 @@ std::vector<ParallelCase> casesAroundThreshold(const Model &model, bool isContig
     ParallelCase closestParallel = {};
     int largestSerial = INT_MIN;
     int smallestParallel = INT_MAX;
-    for (const Shape &shape : shapesUpTo(model.sizes.size(), model.sizes.size() == 1 ? 200 : 16)) {
+    for (const Shape &shape : shapesUpTo(model.dimensions(), model.dimensions() == 1 ? 200 : 16)) {
+        if (!model.allows(shape)) {
+            continue;
+        }
         const int count = firstParallelCount(model, shape, isContiguous);
         const int measure = model.parallel->measure(shape, count);
         if (measure < smallestParallel) {

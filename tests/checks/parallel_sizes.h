@@ -20,7 +20,8 @@ struct ParallelCase {
 /// The smallest count with which objects of this shape are computed in parallel.
 int firstParallelCount(const Model &model, const Shape &shape, bool isContiguous);
 
-/// Objects so large that an array of `count` of them is computed in parallel, and not much larger.
+/// Objects so large that an array of `count` of them is computed in parallel, and not much larger. Where all objects
+/// have one size, that.
 Shape firstParallelShape(const Model &model, int count, bool isContiguous);
 
 /// For objects of many shapes the last serial count and the first parallel one; among them the largest serial and the

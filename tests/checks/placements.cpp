@@ -7,9 +7,12 @@ namespace lxpm::test {
 
 namespace {
 
-const Pattern *patternFor(const Operand &operand, int number) {
+const Pattern *patternFor(const Model &model, const Operand &operand, int number) {
     const Pattern *pattern = allPatterns()[number % allPatterns().size()];
-    return operand.isWritten && pattern->objectsOverlap ? &dense : pattern;
+    // A result that is not made element by element, and so may not be written over a source, has no last row either.
+    const bool overlaps = pattern->objectsOverlap ||
+                          (pattern->rowsOverlap && !(model.destinationMayBeSource && model.destinationRowsMayOverlap));
+    return operand.isWritten && overlaps ? &dense : pattern;
 }
 
 } // namespace
@@ -25,7 +28,7 @@ std::vector<Placement> combination(const Model &model, int number) {
     for (std::size_t index = 0; index < placements.size(); ++index) {
         // Any step that is no divisor of the number of patterns leads to different ones.
         const int step = areAlike ? 0 : static_cast<int>(3 * index);
-        placements[index].pattern = patternFor(model.operands[index], number + step);
+        placements[index].pattern = patternFor(model, model.operands[index], number + step);
     }
     return placements;
 }

@@ -48,10 +48,16 @@ Report checkSpecialValues(const Export &item) {
             // Every position of the one operand goes through all values, and meets all values of the other.
             for (std::size_t pair = 0; pair < values * values && !report.isFull(); ++pair) {
                 const std::array<std::size_t, 2> start = {pair / values, pair % values};
-                call.fill([&](int operand, std::size_t element) -> std::uint64_t {
-                    const SpecialValue &value = specialValues[(element + start[operand % 2]) % values];
-                    return model.type == ElementType::Float32 ? value.in32f : value.in64f;
-                });
+                call.fill(
+                    [&](int operand, std::size_t element) -> std::uint64_t {
+                        // Of four operands the later two go through the values at twice the pace of the first two, and
+                        // start the other way round.
+                        const std::size_t later = operand / 2;
+                        const std::size_t from = start[(operand + later) % 2];
+                        const SpecialValue &value = specialValues[(element * (1 + later) + from) % values];
+                        return model.type == ElementType::Float32 ? value.in32f : value.in64f;
+                    },
+                    Call::Values::AsTheyAre);
                 call.verifyResults(report);
             }
         }

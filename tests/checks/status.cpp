@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "checks/checks.h"
+#include "checks/parallel_sizes.h"
 #include "support/call.h"
 #include "support/thread_count.h"
 
@@ -27,6 +28,7 @@ std::vector<Argument> badValues(ParameterKind kind, int elementSize) {
     case ParameterKind::Size:
         return {0, -1, INT_MIN};
     case ParameterKind::Stride:
+    case ParameterKind::LateStride:
         // None; backwards; not a multiple of the element size, below and above it; both; the value whose negative
         // does not exist.
         return {0, -elementSize, elementSize / 2, elementSize + elementSize / 2, 1, -1, INT_MIN};
@@ -38,13 +40,27 @@ std::vector<Argument> badValues(ParameterKind kind, int elementSize) {
     return {};
 }
 
-std::vector<Fault> faultsOf(const Model &model) {
+std::vector<Fault> faultsOf(const Model &model, const Shape &shape) {
     const std::vector<Parameter> parameters = parametersOf(model);
     std::vector<Fault> faults;
     for (std::size_t index = 0; index < parameters.size(); ++index) {
         const std::optional<Check> check = checkOf(parameters[index].kind);
         for (const Argument &value : badValues(parameters[index].kind, sizeOf(model.type))) {
             faults.push_back({index, value, *check});
+        }
+        if (parameters[index].kind == ParameterKind::Size && model.mustAgree(parameters[index].size)) {
+            for (const int value : {shape[parameters[index].size] + 1, shape[parameters[index].size] - 1, INT_MAX}) {
+                faults.push_back({index, value, Check::SizeMatch});
+            }
+        }
+        if (parameters[index].kind == ParameterKind::Size && model.notLarger) {
+            const auto [size, limit] = *model.notLarger;
+            if (parameters[index].size == size) {
+                faults.push_back({index, shape[limit] + 1, Check::SizeMatch});
+                faults.push_back({index, INT_MAX, Check::SizeMatch});
+            } else if (parameters[index].size == limit && shape[size] > 1) {
+                faults.push_back({index, shape[size] - 1, Check::SizeMatch});
+            }
         }
     }
     return faults;
@@ -105,11 +121,12 @@ private:
 
 Report checkStatus(const Export &item) {
     Report report;
-    const std::vector<Fault> faults = faultsOf(item.model);
     const Shape &shape = item.model.axes->small.back();
+    const std::vector<Fault> faults = faultsOf(item.model, shape);
 
     FaultyCall call(item, shape, 2, report);
-    FaultyCall large(item, shape, 2000, report); // above every limit: the choice of kernel comes after the checks
+    // Above the limit: the choice of kernel comes after the checks.
+    FaultyCall large(item, shape, item.model.parallel ? firstParallelCount(item.model, shape, true) : 1, report);
     for (const Fault &fault : faults) {
         call.verify({fault});
         large.verify({fault});
@@ -125,7 +142,9 @@ Report checkStatus(const Export &item) {
     }
     for (std::size_t first = 0; first < faults.size(); ++first) {
         for (std::size_t second = first + 1; second < faults.size() && !report.isFull(); ++second) {
-            if (faults[first].parameter != faults[second].parameter) {
+            // Two sizes that are wrong in the same way may agree.
+            const bool mayAgree = faults[first].check == Check::SizeMatch && faults[second].check == Check::SizeMatch;
+            if (faults[first].parameter != faults[second].parameter && !mayAgree) {
                 call.verify({faults[first], faults[second]});
             }
         }
@@ -135,6 +154,9 @@ Report checkStatus(const Export &item) {
     std::map<Check, Fault> representatives;
     for (const Fault &fault : faults) {
         representatives.emplace(fault.check, fault);
+        if (fault.check == Check::SizeMatch) {
+            representatives.at(fault.check) = fault; // the last one: the first may be the parameter of a wrong size
+        }
     }
     for (unsigned set = 1; set < 1u << representatives.size(); ++set) {
         std::vector<Fault> chosen;

@@ -7,6 +7,7 @@
 #include "support/call.h"
 #include "support/thread_count.h"
 
+#include <algorithm>
 #include <set>
 
 namespace lxpm::test {
@@ -22,12 +23,27 @@ void verify(const Export &item, const ParallelCase &at, const std::vector<Placem
     call.verifyResults(report);
 }
 
+// Where the measure counts little of what is touched (a diagonal, vectors beside a matrix), few objects have to be huge
+// to be parallel. Then more of them have to do.
+bool isHuge(const Model &model, const ParallelCase &at) {
+    constexpr long most = 1 << 22; // elements of an operand
+    long largest = 0;
+    for (const Operand &operand : model.operands) {
+        largest = std::max(largest, long{operand.rowsOf(at.shape)} * operand.columnsOf(at.shape) *
+                                        (operand.isArray ? at.count : 1));
+    }
+    return largest > most;
+}
+
 std::vector<ParallelCase> casesFor(const Model &model, int threads, bool isContiguous) {
     std::vector<ParallelCase> cases;
     // Fewer objects than threads, as many, one more; some blocks larger than others; many.
     for (const int count : std::set<int>{1, threads - 1, threads, threads + 1, 10, 100}) {
         if (count > 0) {
-            cases.push_back({firstParallelShape(model, count, isContiguous), count});
+            const ParallelCase at = {firstParallelShape(model, count, isContiguous), count};
+            if (!isHuge(model, at)) {
+                cases.push_back(at);
+            }
         }
     }
     // Small objects: blocks that begin and end in the middle of a group of lanes.

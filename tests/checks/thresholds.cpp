@@ -15,11 +15,11 @@ namespace {
 /// kernel that goes on alone, two by one that starts a team.
 void verify(const Export &item, const Shape &shape, int count, const std::vector<Placement> &placements, int threads,
             Report &report) {
+    setThreadCount(threads);
     Call call(item, shape, count, placements);
     call.fill(distinctValues(item.model.type));
     const bool startsTeam = threads > 1 && count >= threads;
     const int expected = !call.isParallel() ? 0 : startsTeam ? 2 : 1;
-    setThreadCount(threads);
     call.verifyResults(report);
     if (threadCountQuestions() != expected) {
         call.complain("asked " + std::to_string(threadCountQuestions()) +

@@ -66,7 +66,7 @@ void verify(const Export &item, const Shape &shape, int count, const std::vector
 Report checkParameterTypes(const Export &item) {
     Report report;
     const std::vector<Parameter> expected = parametersOf(item.model);
-    const std::vector<std::string> &actual = item.function.parameterTypes();
+    const std::vector<std::string> actual = item.function.parameterTypes();
     report.countCase();
     if (actual.size() != expected.size()) {
         report.complain(item.model.name + " has " + std::to_string(actual.size()) + " parameters, expected " +
@@ -143,12 +143,14 @@ Report checkInPlace(const Export &item) {
             call.verifyResults(report);
 
             // All operands at once, where both sources may be the destination.
-            if (source == 1 && item.model.mayBeInPlace(0)) {
-                Call onItself(item, at.shape, at.count, placements);
-                onItself.readTwice(1, 0);
-                onItself.writeInPlaceOf(1);
-                onItself.fill(distinctValues(item.model.type));
-                onItself.verifyResults(report);
+            for (int earlier = 0; earlier < source; ++earlier) {
+                if (item.model.mayBeInPlace(earlier)) {
+                    Call onItself(item, at.shape, at.count, placements);
+                    onItself.readTwice(source, earlier);
+                    onItself.writeInPlaceOf(source);
+                    onItself.fill(distinctValues(item.model.type));
+                    onItself.verifyResults(report);
+                }
             }
         }
     }

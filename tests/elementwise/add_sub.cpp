@@ -57,6 +57,9 @@ Operand makeOperand(std::string role, CodeLetter letter, bool isWritten) {
     case Kind::Vector:
         return {std::move(role), letter.kind, letter.isArray, isWritten, Operand::one, 0}; // sizes are len
     case Kind::Constant:
+    case Kind::Results:
+    case Kind::Indices:
+    case Kind::Scratch:
         break;
     }
     return {std::move(role), letter.kind, letter.isArray, isWritten, Operand::one, Operand::one};
@@ -223,7 +226,8 @@ Model describeAddSub(const ExportName &name) {
         std::swap(model.operands[0], model.operands[1]);
         std::swap(firstAt, secondAt);
     }
-    model.sizes = isMatrix ? std::vector<std::string>{"width", "height"} : std::vector<std::string>{"len"};
+    model.sizes = isMatrix ? std::vector<SizeParameter>{{"width", 0, 2}, {"height", 1, 2}}
+                           : std::vector<SizeParameter>{{"len", 0, 2}};
     model.axes = isMatrix ? &matrixSizes : &vectorSizes;
     model.order = hasArray ? orderOfArrays(name) : orderOfSingles(name);
     if (hasArray) {

@@ -32,7 +32,7 @@ void expectSound(const std::vector<Report> &reports) {
 /// One call on a serial path and, of an array export, one that starts a team.
 void callOnce(const Export &item, Report &report) {
     const Model &model = item.model;
-    const Shape &shape = model.axes->small[4];
+    const Shape &shape = model.axes->small[model.axes->small.size() / 2];
     std::vector<int> counts = {1};
     if (model.parallel) {
         counts.push_back(firstParallelCount(model, shape, true) + 1);

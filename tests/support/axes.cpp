@@ -33,6 +33,23 @@ std::vector<Shape> squares(int first, int last) {
     return all;
 }
 
+std::vector<Shape> cubes(int first, int last) {
+    std::vector<Shape> all;
+    for (int order = first; order <= last; ++order) {
+        all.push_back({order, order, order});
+    }
+    return all;
+}
+
+// Products of three sizes, each of them 1 or another, and each of the unrolled orders with one size that does not fit.
+const std::vector<Shape> flatProducts = {{1, 5, 1}, {5, 1, 5}, {1, 1, 7}, {7, 1, 1}, {1, 4, 4}, {4, 4, 1}, {1, 8, 8},
+                                         {3, 4, 5}, {5, 4, 3}, {2, 7, 6}, {3, 3, 4}, {4, 3, 3}, {3, 4, 3}, {6, 6, 5},
+                                         {5, 6, 6}, {6, 5, 6}, {8, 7, 8}, {2, 2, 9}, {9, 2, 2}};
+
+// Blocks of four rows by two registers, stretches of the inner dimension, with every kind of remainder.
+const std::vector<Shape> aroundBlocks = {{4, 9, 16}, {5, 2, 17}, {6, 3, 15},  {7, 10, 8},  {8, 16, 24},
+                                         {3, 31, 9}, {2, 70, 5}, {1, 130, 3}, {5, 129, 17}};
+
 // One row and one column: loops that run once, and remainders without a whole register.
 const std::vector<Shape> rowsAndColumns = {{2, 1}, {5, 1}, {8, 1}, {9, 1}, {17, 1}, {31, 1},
                                            {1, 2}, {1, 5}, {1, 8}, {1, 9}, {1, 17}};
@@ -65,6 +82,69 @@ const SizeAxes vectorSizes = {
     .tight = join({lengths(1, 40), {{63}, {64}, {65}}}),
     // Every remainder of a register of either type.
     .special = {{1}, {3}, {5}, {7}, {9}, {15}, {31}},
+};
+
+const SizeAxes summedMatrixSizes = {
+    .all = join({matrixSizes.all, {{64, 2}, {47, 3}, {15, 9}}}),
+    .small = join({aroundUnrolled, {{16, 2}, {17, 3}}}),
+    .tight = matrixSizes.tight,
+    .special = matrixSizes.special,
+};
+
+const SizeAxes orders = {
+    .all = join({lengths(1, 20), {{33}}}),
+    .small = lengths(1, 7),
+    .tight = lengths(1, 9),
+    .special = {{1}, {3}, {4}, {5}, {6}, {7}},
+};
+
+const SizeAxes eigenOrders = {
+    .all = join({lengths(1, 10), {{15}, {16}, {17}, {33}, {66}}}),
+    .small = lengths(1, 7),
+    .tight = join({lengths(1, 9), {{17}}}),
+    .special = {{1}, {2}, {3}, {4}, {5}, {6}, {9}},
+};
+
+const SizeAxes tallSizes = {
+    .all = join({squares(1, 9),
+                 {{2, 1},
+                  {5, 1},
+                  {9, 1},
+                  {17, 1},
+                  {4, 3},
+                  {5, 3},
+                  {6, 4},
+                  {7, 2},
+                  {8, 7},
+                  {9, 4},
+                  {16, 8},
+                  {12, 12},
+                  {16, 16},
+                  {17, 17},
+                  {20, 13},
+                  {33, 9},
+                  {40, 2},
+                  {33, 33},
+                  {300, 2}}}),
+    .small = join({squares(1, 6), {{2, 1}, {5, 3}, {6, 4}}}),
+    .tight = join({squares(1, 9), {{2, 1}, {5, 1}, {9, 1}, {4, 3}, {5, 3}, {6, 4}, {7, 2}, {16, 8}, {20, 13}}}),
+    .special = {{1, 1}, {3, 3}, {4, 4}, {5, 5}, {6, 6}, {5, 3}},
+};
+
+const SizeAxes noSizes = {.all = {{}}, .small = {{}}, .tight = {{}}, .special = {{}}};
+
+const SizeAxes productSizes = {
+    .all = join({cubes(1, 9), flatProducts, aroundBlocks, {{12, 12, 12}, {16, 16, 16}, {17, 17, 17}, {33, 33, 33}}}),
+    .small = join({cubes(1, 9), {{3, 4, 4}, {4, 3, 3}, {4, 4, 3}, {2, 5, 3}}}),
+    .tight = join({cubes(1, 9), flatProducts, aroundBlocks}),
+    .special = {{3, 3, 3}, {4, 4, 4}, {5, 5, 5}, {6, 6, 6}, {5, 9, 17}},
+};
+
+const SizeAxes matrixVectorSizes = {
+    .all = join({squares(1, 9), rowsAndColumns, rectangles, wideSquares, {{3, 70}, {5, 130}, {2, 300}, {70, 3}}}),
+    .small = join({squares(1, 9), {{3, 4}, {4, 3}, {6, 5}}}),
+    .tight = join({squares(1, 9), rowsAndColumns, rectangles, {{12, 12}, {17, 17}, {15, 3}, {23, 2}, {3, 70}}}),
+    .special = matrixSizes.special,
 };
 
 std::span<const int> countsOf(const Model &model) {

@@ -4,6 +4,7 @@
 #include "support/call.h"
 
 #include "support/elements.h"
+#include "support/thread_count.h"
 
 #include <algorithm>
 #include <atomic>
@@ -94,7 +95,7 @@ Fill distinctValues(ElementType type) {
 
 Fill wholeNumbers(ElementType type) {
     return [type](int operand, std::size_t element) {
-        return bitsOf(type, static_cast<double>(element % 1000) + 1000.0 * operand + 1.0);
+        return bitsOf(type, static_cast<double>(element % 50) + 50.0 * operand + 1.0);
     };
 }
 
@@ -103,9 +104,21 @@ Call::Call(const Export &item, Shape shape, int count, const std::vector<Placeme
     const Model &model = export_.model;
     operands_.reserve(model.operands.size());
     for (std::size_t index = 0; index < model.operands.size(); ++index) {
-        operands_.emplace_back(model.operands[index], model.layout, model.type, shape_, objects_,
+        operands_.emplace_back(sized(model.operands[index]), model.layout, model.type, shape_, objects_,
                                placements[std::min(index, placements.size() - 1)]);
     }
+}
+
+/// Scratch is as large as the contract says, for the team that the call gets, and not larger.
+Operand Call::sized(const Operand &operand) const {
+    Operand result = operand;
+    if (operand.scratchElements) {
+        const bool isParallel = export_.model.parallel && export_.model.parallel->isParallel(shape_, count_, true);
+        const int teams = operand.hasScratchPerThread && isParallel ? teamFor(count_) : 1;
+        result.rows = Operand::one;
+        result.columns = -operand.scratchElements(shape_) * teams;
+    }
+    return result;
 }
 
 Call::~Call() {
@@ -122,7 +135,17 @@ void Call::readTwice(int earlier, int later) {
     operands_[later].becomeSameAs(operands_[earlier]);
 }
 
-void Call::fill(const Fill &fill) {
+void Call::fill(const Fill &fill, Values values) {
+    const auto &adjust = export_.model.adjust;
+    const auto bitsAt = [&](const PlacedOperand &operand, const ElementPlace &place,
+                            std::uint64_t bits) -> std::uint64_t {
+        if (operand.model().kind == Kind::Indices) {
+            // What is to be written holds no valid index before.
+            const int index = permuted(place.object, place.column, place.columns);
+            return static_cast<std::uint32_t>(index + (operand.model().isWritten ? 1000 : 0));
+        }
+        return adjust && values == Values::Adjusted ? adjust(place, bits) : bits;
+    };
     // The destination first: where it is a source's memory, the source's values count.
     for (int index = static_cast<int>(operands_.size()) - 1; index >= 0; --index) {
         PlacedOperand &operand = operands_[index];
@@ -130,7 +153,8 @@ void Call::fill(const Fill &fill) {
         for (int object = 0; object < operand.objects(); ++object) {
             for (int row = 0; row < operand.rows(); ++row) {
                 for (int column = 0; column < operand.columns(); ++column) {
-                    operand.setBits(object, row, column, fill(index, element++));
+                    const ElementPlace place = {index, object, row, column, operand.columns()};
+                    operand.setBits(object, row, column, bitsAt(operand, place, fill(index, element++)));
                 }
             }
         }
@@ -140,13 +164,24 @@ void Call::fill(const Fill &fill) {
 
 void Call::makeArguments() {
     arguments_.clear();
-    for (const PlacedOperand &operand : operands_) {
-        operand.appendArguments(arguments_);
-    }
-    arguments_.insert(arguments_.end(), shape_.begin(), shape_.end());
+    const auto append = [&](bool last) {
+        for (int index = 0; index < static_cast<int>(operands_.size()); ++index) {
+            if (operands_[index].model().standsLast != last) {
+                continue;
+            }
+            operands_[index].appendArguments(arguments_);
+            for (const SizeParameter &size : export_.model.sizes) {
+                if (size.operand == index) {
+                    arguments_.emplace_back(shape_[size.size]);
+                }
+            }
+        }
+    };
+    append(false);
     if (export_.model.hasCount) {
         arguments_.emplace_back(count_);
     }
+    append(true);
 }
 
 std::vector<Arena *> Call::arenas() const {
@@ -165,18 +200,31 @@ void Call::expectUnchanged() {
     for (Arena *arena : arenas()) {
         arena->expectUnchanged();
     }
-    destination().forgetAnyNan();
+    for (PlacedOperand &operand : operands_) {
+        operand.forgetExceptions();
+    }
 }
 
 template <class T>
-void Call::applyFormula(const std::function<void(std::span<const Elements<T>>)> &formula) {
+void Call::applyFormula(const std::function<LxpStatus(std::span<const Elements<T>>)> &formula) {
+    failures_.clear();
+    for (PlacedOperand &operand : operands_) {
+        for (int column = 0; operand.model().kind == Kind::Scratch && column < operand.columns(); ++column) {
+            operand.expectAnything(0, 0, column);
+        }
+    }
     std::vector<Elements<T>> elements;
     for (int object = 0; object < objects_; ++object) {
         elements.clear();
         for (PlacedOperand &operand : operands_) {
             elements.emplace_back(operand, object);
         }
-        formula(elements);
+        if (const LxpStatus status = formula(elements); status != lxpStatusOk) {
+            failures_.push_back(status);
+            if (export_.model.failingObjectEndsCall) {
+                return;
+            }
+        }
     }
 }
 
@@ -196,11 +244,15 @@ LxpStatus Call::invoke() {
     return status_;
 }
 
-void Call::acceptAnyNan() {
+void Call::acceptExceptions() {
     const ElementType type = export_.model.type;
-    PlacedOperand &to = destination();
-    for (std::byte *address : to.anyNan()) {
-        if (isNan(type, address)) {
+    for (PlacedOperand &to : operands_) {
+        for (std::byte *address : to.anyNan()) {
+            if (isNan(type, address)) {
+                std::memcpy(to.memory()->expected(address), address, sizeOf(type));
+            }
+        }
+        for (std::byte *address : to.anything()) {
             std::memcpy(to.memory()->expected(address), address, sizeOf(type));
         }
     }
@@ -211,7 +263,18 @@ void Call::verify(LxpStatus expected, Report &report) {
         complain("returned " + std::to_string(status_) + ", expected " + std::to_string(expected), report);
         return;
     }
-    acceptAnyNan();
+    verifyMemory(report);
+}
+
+void Call::verify(Report &report) {
+    // Of several threads any may have been the first one to record a failure.
+    const bool isOneOfThem = isParallel() && teamFor(count_) > 1 &&
+                             std::find(failures_.begin(), failures_.end(), status_) != failures_.end();
+    verify(isOneOfThem ? status_ : failures_.empty() ? lxpStatusOk : failures_.front(), report);
+}
+
+void Call::verifyMemory(Report &report) {
+    acceptExceptions();
     for (Arena *arena : arenas()) {
         if (!arena->isAsExpected()) {
             complain(describeDifference(*arena, arena->findDifference(arena->begin())), report);
@@ -223,7 +286,7 @@ void Call::verifyResults(Report &report) {
     report.countCase();
     expectResults();
     invoke();
-    verify(lxpStatusOk, report);
+    verify(report);
 }
 
 void Call::complain(const std::string &what, Report &report) {
@@ -231,16 +294,19 @@ void Call::complain(const std::string &what, Report &report) {
 }
 
 std::string Call::describeDifference(Arena &arena, const std::byte *at) {
-    const int size = sizeOf(export_.model.type);
     // The destination first: where it is a source's memory, a wrong result is the likely cause.
     for (auto operand = operands_.rbegin(); operand != operands_.rend(); ++operand) {
         if (operand->memory().get() == &arena) {
+            const int size = operand->elementSize();
             const std::string element = operand->nameOfElementAt(at);
             if (element.empty()) {
                 return "a byte between the elements of " + operand->model().role + " was changed, " +
                        std::to_string(at - arena.begin()) + " bytes behind its guard page";
             }
             const std::byte *first = arena.begin() + (at - arena.begin()) / size * size;
+            if (operand->model().kind == Kind::Indices) {
+                return operand->model().role + ", " + element + ": a wrong index";
+            }
             return operand->model().role + ", " + element + ": found " + valueText(export_.model.type, first) +
                    ", expected " + valueText(export_.model.type, arena.expected(first));
         }
@@ -254,6 +320,12 @@ std::string Call::describeDifference(Arena &arena, const std::byte *at) {
 bool Call::isContiguous() const {
     return std::all_of(operands_.begin(), operands_.end(),
                        [](const PlacedOperand &operand) { return operand.isContiguous(); });
+}
+
+bool Call::splitsSums() const {
+    const Model &model = export_.model;
+    return model.splitsContiguousSums && model.layout != Layout::ElementPointers && isContiguous() &&
+           model.splitsContiguousSums(shape_);
 }
 
 bool Call::isParallel() const {

@@ -23,7 +23,7 @@ using Fill = std::function<std::uint64_t(int operand, std::size_t element)>;
 /// Values that are all different, of either sign, and of magnitudes whose sums are not exact.
 Fill distinctValues(ElementType type);
 
-/// Small whole numbers: sums and differences are exact.
+/// Small whole numbers: sums and differences are exact, and so are sums of many products.
 Fill wholeNumbers(ElementType type);
 
 class Call {
@@ -40,7 +40,9 @@ public:
     /// Source `later` becomes the memory of source `earlier`, before `fill`.
     void readTwice(int earlier, int later);
 
-    void fill(const Fill &fill);
+    /// As good operands, or as they are.
+    enum class Values { Adjusted, AsTheyAre };
+    void fill(const Fill &fill, Values values = Values::Adjusted);
 
     /// What the formula says, from the operands as they are now.
     void expectResults();
@@ -53,7 +55,10 @@ public:
     /// Complains unless the last call returned `expected` and all memory is as expected.
     void verify(LxpStatus expected, Report &report);
 
-    /// Calls and verifies, a successful call that follows the formula.
+    /// Complains unless the last call returned a status that the formula gave, and all memory is as expected.
+    void verify(Report &report);
+
+    /// Calls and verifies a call that passes the checks and follows the formula.
     void verifyResults(Report &report);
 
     /// A complaint about this call.
@@ -61,11 +66,14 @@ public:
 
     std::vector<Argument> &arguments() { return arguments_; }
     PlacedOperand &operand(int index) { return operands_[index]; }
-    PlacedOperand &destination() { return operands_.back(); }
+    int operandCount() const { return static_cast<int>(operands_.size()); }
     int objects() const { return objects_; }
 
     /// Every element stride of the call is the element size.
     bool isContiguous() const;
+
+    /// Whether the contract lets this call sum in the order for contiguous elements.
+    bool splitsSums() const;
 
     /// Whether the contract hands this call to the parallel kernel.
     bool isParallel() const;
@@ -78,8 +86,10 @@ public:
 
 private:
     template <class T>
-    void applyFormula(const std::function<void(std::span<const Elements<T>>)> &formula);
-    void acceptAnyNan();
+    void applyFormula(const std::function<LxpStatus(std::span<const Elements<T>>)> &formula);
+    void acceptExceptions();
+    void verifyMemory(Report &report);
+    Operand sized(const Operand &operand) const;
     void makeArguments();
     std::vector<Arena *> arenas() const;
     std::string describeDifference(Arena &arena, const std::byte *at);
@@ -91,6 +101,7 @@ private:
     std::vector<PlacedOperand> operands_;
     std::vector<Argument> arguments_;
     LxpStatus status_ = lxpStatusOk;
+    std::vector<LxpStatus> failures_; // of objects, in their order, as the formula has them
 };
 
 /// The call that was started last, for the report of a crash; null before the first.

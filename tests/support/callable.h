@@ -43,18 +43,29 @@ std::string typeText() {
 
 class Callable {
 public:
-    template <class... Parameters>
-    explicit Callable(LxpStatus (*function)(Parameters...))
-        : function_(reinterpret_cast<Erased>(function)),
-          invoke_(&invoke<Parameters...>), parameterTypes_{typeText<Parameters>()...} {}
-
-    LxpStatus operator()(std::span<const Argument> arguments) const { return invoke_(function_, arguments); }
-
-    const std::vector<std::string> &parameterTypes() const { return parameterTypes_; }
-
-private:
     using Erased = void (*)();
 
+    // What is done with functions of one type.
+    struct Type {
+        LxpStatus (*invoke)(Erased function, std::span<const Argument> arguments);
+        std::vector<std::string> (*parameters)();
+    };
+
+    template <class... Parameters>
+    static constexpr Type typeOf(LxpStatus (*)(Parameters...)) {
+        return {&invoke<Parameters...>, &typeTexts<Parameters...>};
+    }
+
+    template <class... Parameters>
+    explicit Callable(LxpStatus (*function)(Parameters...))
+        : Callable(reinterpret_cast<Erased>(function), typeOf(function)) {}
+    Callable(Erased function, const Type &type) : function_(function), type_(type) {}
+
+    LxpStatus operator()(std::span<const Argument> arguments) const { return type_.invoke(function_, arguments); }
+
+    std::vector<std::string> parameterTypes() const { return type_.parameters(); }
+
+private:
     template <class... Parameters>
     static LxpStatus invoke(Erased function, std::span<const Argument> arguments) {
         if (arguments.size() != sizeof...(Parameters)) {
@@ -64,6 +75,11 @@ private:
             return reinterpret_cast<LxpStatus (*)(Parameters...)>(function)(to<Parameters>(arguments[index])...);
         }
         (std::index_sequence_for<Parameters...>());
+    }
+
+    template <class... Parameters>
+    static std::vector<std::string> typeTexts() {
+        return {typeText<Parameters>()...};
     }
 
     template <class T>
@@ -76,8 +92,7 @@ private:
     }
 
     Erased function_;
-    LxpStatus (*invoke_)(Erased, std::span<const Argument>);
-    std::vector<std::string> parameterTypes_;
+    Type type_;
 };
 
 } // namespace lxpm::test

@@ -20,6 +20,11 @@ public:
     int rows() const { return operand_->rows(); }
     int columns() const { return operand_->columns(); }
 
+    /// Whether strides say that the elements of a row touch.
+    bool isContiguous() const {
+        return hasElementStride(operand_->model(), operand_->form()) && operand_->isContiguous();
+    }
+
     T operator()(int row, int column) const {
         T value;
         std::memcpy(&value, operand_->element(object_, row, column), sizeof value);
@@ -28,6 +33,19 @@ public:
 
     void expect(int row, int column, T value) const {
         std::memcpy(operand_->expectedElement(object_, row, column), &value, sizeof value);
+    }
+
+    /// Anything will do.
+    void expectAnything(int row, int column) const { operand_->expectAnything(object_, row, column); }
+    /// Of indices.
+    int index(int position) const {
+        int value;
+        std::memcpy(&value, operand_->element(object_, 0, position), sizeof value);
+        return value;
+    }
+
+    void expectIndex(int position, int value) const {
+        std::memcpy(operand_->expectedElement(object_, 0, position), &value, sizeof value);
     }
 
     /// Any NaN will do: which of two payloads survives an addition is left to the processor.

@@ -10,10 +10,13 @@
 
 #include <lxp/status.h>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace lxpm::test {
@@ -28,15 +31,20 @@ constexpr int sizeOf(ElementType type) {
     return type == ElementType::Float32 ? 4 : 8;
 }
 
-/// The values of an export's size parameters, in the order of its argument list.
+/// The values of an export's logical sizes. Each has one size parameter or, where sizes of operands must agree,
+/// several.
 using Shape = std::vector<int>;
 
-enum class Kind { Matrix, Transposed, Vector, Constant };
+/// Results: one scalar for each object, one behind the other in every layout, which no stride describes. Indices: whole
+/// numbers, in such memory too; as a source, a permutation for each object. Scratch: elements in such memory, which a
+/// call may leave in any state.
+enum class Kind { Matrix, Transposed, Vector, Constant, Results, Indices, Scratch };
 
 /// An operand of an export, whatever the layout. `rows` and `columns` are those of the logical object, given as
-/// positions in the export's list of sizes.
+/// positions in the export's shapes, or as negative numbers where they are always the same.
 struct Operand {
     static constexpr int one = -1;
+    static constexpr int three = -3;
 
     std::string role;
     Kind kind;
@@ -44,30 +52,39 @@ struct Operand {
     bool isWritten;
     int rows;
     int columns;
+    std::optional<Layout> ownLayout = {}; // where the operands of an export differ in layout
+    bool isDense = false;                 // plain dense memory, described by its first element's address alone
+    bool isObjStrideLate = false;         // checked apart from the other strides, and only where count > 1
+    std::string pointer = {};             // the name of the pointer where it is not the role
+    bool standsLast = false;              // in the argument list, behind the count
+    std::function<int(const Shape &shape)> scratchElements = {};
+    bool hasScratchPerThread = false;
 
-    int rowsOf(const Shape &shape) const { return rows == one ? 1 : shape[rows]; }
-    int columnsOf(const Shape &shape) const { return columns == one ? 1 : shape[columns]; }
+    int rowsOf(const Shape &shape) const { return rows < 0 ? -rows : shape[rows]; }
+    int columnsOf(const Shape &shape) const { return columns < 0 ? -columns : shape[columns]; }
 };
 
 /// How the parameters of an operand describe it. A layout does not touch all operands: a single object keeps its
 /// strides among object pointers, an array of constants keeps them among element pointers.
-enum class Form { ByValue, Strided, ObjectPointers, ElementPointers };
+enum class Form { ByValue, Dense, Strided, ObjectPointers, ElementPointers };
 
 Form formOf(const Operand &operand, Layout layout);
 
-/// Whether an operand described in this form has a row stride, an element stride.
+/// Whether an operand described in this form has an object stride, a row stride, an element stride.
+bool hasObjectStride(const Operand &operand, Form form);
 bool hasRowStride(const Operand &operand, Form form);
 bool hasElementStride(const Operand &operand, Form form);
 
-enum class ParameterKind { Value, Pointer, Stride, Offset, Size, Count };
+enum class ParameterKind { Value, Pointer, Stride, LateStride, Offset, Size, Count };
 
 struct Parameter {
     std::string type; // as C++ spells it: "const float *const *"
     std::string name;
     ParameterKind kind;
+    int size = -1; // of a size parameter: its position in the shape
 };
 
-enum class Check { Pointers, Count, Sizes, Strides, Offsets };
+enum class Check { Pointers, Count, Sizes, SizeMatch, Strides, Offsets, LateStrides };
 
 LxpStatus statusOf(Check check);
 
@@ -86,16 +103,38 @@ struct ParallelRule {
     }
 };
 
-/// What a call should leave in the destination, one object at a time; operands in the order of the argument list.
+/// What a call should leave in the destinations, one object at a time, and the status of this object; operands in the
+/// order in which the model has them.
 struct Formula {
-    std::function<void(std::span<const Elements<float>> operands)> in32f;
-    std::function<void(std::span<const Elements<double>> operands)> in64f;
+    std::function<LxpStatus(std::span<const Elements<float>> operands)> in32f;
+    std::function<LxpStatus(std::span<const Elements<double>> operands)> in64f;
 };
 
+/// Of a function that returns a status, or nothing where no object can fail.
 template <class Function>
 Formula formula(Function function) {
-    return {function, function};
+    const auto withStatus = [function](auto operands) -> LxpStatus {
+        if constexpr (std::is_void_v<decltype(function(operands))>) {
+            function(operands);
+            return lxpStatusOk;
+        } else {
+            return function(operands);
+        }
+    };
+    return {withStatus, withStatus};
 }
+
+/// Where an element of an operand stands.
+struct ElementPlace {
+    int operand;
+    int object;
+    int row;
+    int column;
+    int columns; // of the operand
+};
+
+/// The permutation that a source of indices holds for an object.
+int permuted(int object, int index, int order);
 
 /// The values that the size parameters take in tests.
 struct SizeAxes {
@@ -103,6 +142,13 @@ struct SizeAxes {
     std::vector<Shape> small;   // those that meet every stride pattern and every count
     std::vector<Shape> tight;   // those that are laid against guard pages
     std::vector<Shape> special; // those that NaN, infinities and zeros wander through
+};
+
+/// A size parameter stands behind an operand's parameters; one that belongs to no operand behind the destination's.
+struct SizeParameter {
+    std::string name;
+    int size;    // its position in the shape
+    int operand; // its position in the list of operands
 };
 
 struct ExportName {
@@ -114,15 +160,50 @@ struct ExportName {
 };
 
 struct Model : ExportName {
-    std::vector<Operand> operands; // in the order of the argument list, the destination last
-    std::vector<std::string> sizes;
+    std::vector<Operand> operands; // in the order of the argument list, the destination last; then what stands last
+    std::vector<SizeParameter> sizes;
     bool hasCount;
     std::vector<Check> order;
     std::optional<ParallelRule> parallel; // none: always serial
     Formula formula;
     const SizeAxes *axes;
+    bool destinationMayBeSource = true; // as far as their shapes agree
 
-    /// A destination may be the very memory of a source of the same shape that is not read transposed.
+    /// Results that are made element by element, so that of overlapping rows the last one wins.
+    bool destinationRowsMayOverlap = true;
+
+    /// What makes good operands of arbitrary values: where an object can fail, or results grow without bound. Gives the
+    /// bits of an element in the place of others.
+    std::function<std::uint64_t(const ElementPlace &place, std::uint64_t bits)> adjust = {};
+
+    /// Whether an object that fails ends the call. Else the others are computed all the same.
+    bool failingObjectEndsCall = false;
+
+    /// Consecutive whole numbers are good operands too.
+    bool takesWholeNumbers = true;
+
+    /// A size that may not be larger than another: their positions in the shape.
+    std::optional<std::pair<int, int>> notLarger = {};
+
+    /// Whether the sizes of a shape fit each other.
+    bool allows(const Shape &shape) const { return !notLarger || shape[notLarger->first] <= shape[notLarger->second]; }
+
+    /// How many sizes a shape has.
+    std::size_t dimensions() const { return axes->all.front().size(); }
+
+    /// Whether a size is given by several parameters, which must agree.
+    bool mustAgree(int size) const;
+
+    /// Whether whole numbers as operands give exact results: not where they are squared and summed, or a root is taken.
+    bool isExactForWholeNumbers = true;
+
+    /// Whether results round through numbers so small that they lose bits.
+    bool mayUnderflow = false;
+
+    /// Whether a sum goes in another order where the elements of a shape's rows touch. None: there is one order.
+    std::function<bool(const Shape &shape)> splitsContiguousSums = {};
+
+    /// A destination may be the very memory of a source of the same shape and layout that is not read transposed.
     bool mayBeInPlace(int source) const;
 };
 

@@ -30,14 +30,18 @@ std::byte *place(Arena &arena, std::size_t bytes, Edge edge, std::size_t shift) 
 
 PlacedOperand::PlacedOperand(const Operand &operand, Layout layout, ElementType type, const Shape &shape, int count,
                              const Placement &placement)
-    : operand_(operand), placement_(placement), form_(formOf(operand, layout)), type_(type), size_(sizeOf(type)),
+    : operand_(operand), placement_(placement), form_(formOf(operand, layout)), type_(type),
+      size_(operand.kind == Kind::Indices ? static_cast<int>(sizeof(int)) : sizeOf(type)),
       objects_(operand.isArray ? count : 1), rows_(operand.rowsOf(shape)), columns_(operand.columnsOf(shape)),
       storedRows_(operand.kind == Kind::Transposed ? columns_ : rows_),
       storedColumns_(operand.kind == Kind::Transposed ? rows_ : columns_) {
     if (form_ == Form::ByValue) {
         return;
     }
-    strides_ = placement.pattern->stridesOf({storedRows_, storedColumns_, objects_, size_});
+    if (form_ == Form::Dense) {
+        placement_.pattern = &dense;
+    }
+    strides_ = placement_.pattern->stridesOf({storedRows_, storedColumns_, objects_, size_});
     if (form_ == Form::ObjectPointers) {
         slots_ = orderOf(objects_, placement.shuffle);
     } else if (form_ == Form::ElementPointers) {
@@ -97,7 +101,7 @@ std::byte *PlacedOperand::element(int object, int row, int column) {
     if (form_ == Form::ByValue) {
         return value_;
     }
-    if (operand_.kind == Kind::Constant) {
+    if (operand_.kind == Kind::Constant || operand_.kind == Kind::Results) {
         row = column = 0;
     } else if (operand_.kind == Kind::Transposed) {
         std::swap(row, column);
@@ -132,6 +136,7 @@ void PlacedOperand::appendArguments(std::vector<Argument> &arguments) const {
             arguments.emplace_back(value);
         }
         return;
+    case Form::Dense:
     case Form::Strided:
         arguments.emplace_back(static_cast<const void *>(base_));
         break;
@@ -141,7 +146,7 @@ void PlacedOperand::appendArguments(std::vector<Argument> &arguments) const {
         arguments.emplace_back(placement_.ptrOffset * size_);
         break;
     }
-    if (operand_.isArray && form_ != Form::ObjectPointers) {
+    if (hasObjectStride(operand_, form_)) {
         arguments.emplace_back(strides_.object);
     }
     if (hasRowStride(operand_, form_)) {

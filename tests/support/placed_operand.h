@@ -39,6 +39,7 @@ public:
     int objects() const { return objects_; }
     int rows() const { return rows_; }
     int columns() const { return columns_; }
+    int elementSize() const { return size_; }
 
     /// The same memory, described by the same parameters, in another role.
     void becomeSameAs(const PlacedOperand &other);
@@ -56,7 +57,16 @@ public:
     /// Elements of which only NaN is expected.
     const std::vector<std::byte *> &anyNan() const { return anyNan_; }
     void expectAnyNan(int object, int row, int column) { anyNan_.push_back(element(object, row, column)); }
-    void forgetAnyNan() { anyNan_.clear(); }
+
+    /// Elements of which nothing is expected.
+    const std::vector<std::byte *> &anything() const { return anything_; }
+    void expectAnything(int object, int row, int column) { anything_.push_back(element(object, row, column)); }
+
+    /// Every element is expected to be what the contents to be expected say.
+    void forgetExceptions() {
+        anyNan_.clear();
+        anything_.clear();
+    }
 
     /// Whether this operand stands in the way of a contiguous kernel.
     bool isContiguous() const { return !hasElementStride(operand_, form_) || strides_.element == size_; }
@@ -95,6 +105,7 @@ private:
     std::byte *pointers_ = nullptr;
     std::byte value_[8] = {}; // a constant that is passed by value
     std::vector<std::byte *> anyNan_;
+    std::vector<std::byte *> anything_;
 };
 
 } // namespace lxpm::test

@@ -46,6 +46,14 @@ void useThreadCountOfCore() {
     questions = 0;
 }
 
+int teamFor(int count) {
+    if (asksCore) {
+        const int threads = askCore();
+        return count < threads ? 1 : threads;
+    }
+    return answers[0] <= 1 || count < answers[0] ? 1 : answers[1].load();
+}
+
 int threadCountQuestions() {
     return questions.load(std::memory_order_relaxed);
 }

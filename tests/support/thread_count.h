@@ -18,6 +18,9 @@ void setThreadCounts(int atStart, int beforeTeam);
 /// The core library's own answer from now on.
 void useThreadCountOfCore();
 
+/// How many threads a parallel kernel gets for so many objects: one where it stays alone.
+int teamFor(int count);
+
 /// How often the library asked since one of the functions above was called.
 int threadCountQuestions();
 

@@ -8,5 +8,11 @@ namespace lxpm::bench::eigen {
 
 // Each appends the kernels of a family.
 void addAddSub(PeerTable &table);
+void addMoving(PeerTable &table);
+void addProducts(PeerTable &table);
+void addReductions(PeerTable &table);
+void addGraphics(PeerTable &table);
+void addSolvers(PeerTable &table);
+void addEigenproblems(PeerTable &table);
 
 } // namespace lxpm::bench::eigen

@@ -7,6 +7,12 @@ extern "C" const lxpm::bench::PeerTable *LXPM_PEER_TABLE() {
     static const lxpm::bench::PeerTable all = [] {
         lxpm::bench::PeerTable table;
         lxpm::bench::eigen::addAddSub(table);
+        lxpm::bench::eigen::addMoving(table);
+        lxpm::bench::eigen::addProducts(table);
+        lxpm::bench::eigen::addReductions(table);
+        lxpm::bench::eigen::addGraphics(table);
+        lxpm::bench::eigen::addSolvers(table);
+        lxpm::bench::eigen::addEigenproblems(table);
         return table;
     }();
     return &all;

@@ -1,0 +1,135 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "case.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <lxpm/reductions.h>
+
+namespace lxpm::bench {
+
+namespace {
+
+// A function on dense arrays: objects one behind the other, matrices by rows.
+template <class T>
+using OnArrays = LxpStatus (*)(const T *src1, const T *src2, T *dst, int n, int count);
+
+// The elements that one object reads and writes.
+struct Elements {
+    int read;
+    int written;
+};
+
+enum class Results { Equal, Rounded };
+
+template <class T>
+void append(std::vector<Case> &cases, const Setting &setting, const std::string &code, const std::string &name,
+            const std::string &size, int n, Elements elements, Results results, OnArrays<T> function) {
+    const std::size_t read = elements.read * sizeof(T);
+    const std::size_t written = elements.written * sizeof(T);
+    const auto count = static_cast<int>(std::max<std::size_t>(1, setting.bytes / (read + written)));
+    const auto prepare = [=](const Memory &memory) -> Call {
+        const auto *src1 = static_cast<const T *>(memory.source1());
+        const auto *src2 = static_cast<const T *>(memory.source2());
+        auto *dst = static_cast<T *>(memory.result());
+        return [=] { return function(src1, src2, dst, n, count); };
+    };
+    cases.push_back({.group = setting.name + "-" + code,
+                     .name = name + "_" + code + (sizeof(T) == sizeof(float) ? "_32f/" : "_64f/") + size,
+                     .dense = true,
+                     .setting = setting,
+                     .objects = count,
+                     .bytesRead = count * read,
+                     .bytesWritten = count * written,
+                     .prepare = prepare,
+                     .roundedElementSize = results == Results::Rounded ? sizeof(T) : 0});
+}
+
+std::string square(int n) {
+    return std::to_string(n) + "x" + std::to_string(n);
+}
+
+// The export of type T.
+template <class T>
+auto exportOf(auto *in32f, auto *in64f) {
+    if constexpr (sizeof(T) == sizeof(float)) {
+        return in32f;
+    } else {
+        return in64f;
+    }
+}
+
+template <class T>
+void appendType(std::vector<Case> &cases) {
+    constexpr int size = sizeof(T);
+    const Setting &cache = cacheSetting();
+    for (const int n : {3, 4, 5, 6, 7, 8, 64, 1024}) {
+        const std::string len = std::to_string(n);
+        append<T>(cases, cache, "vava", "DotProduct", len, n, {2 * n, 1}, Results::Rounded,
+                  [](const T *a, const T *b, T *dst, int length, int count) {
+                      return exportOf<T>(lxpmDotProduct_vava_32f, lxpmDotProduct_vava_64f)(
+                          a, length * size, size, b, length * size, size, dst, length, count);
+                  });
+        append<T>(cases, cache, "vav", "DotProduct", len, n, {n, 1}, Results::Rounded,
+                  [](const T *a, const T *b, T *dst, int length, int count) {
+                      return exportOf<T>(lxpmDotProduct_vav_32f, lxpmDotProduct_vav_64f)(a, length * size, size, b,
+                                                                                         size, dst, length, count);
+                  });
+        append<T>(cases, cache, "va", "L2Norm", len, n, {n, 1}, Results::Rounded,
+                  [](const T *a, const T *, T *dst, int length, int count) {
+                      return exportOf<T>(lxpmL2Norm_va_32f, lxpmL2Norm_va_64f)(a, length * size, size, dst, length,
+                                                                               count);
+                  });
+    }
+    append<T>(cases, cache, "vava", "CrossProduct", "3", 3, {6, 3}, Results::Equal,
+              [](const T *a, const T *b, T *dst, int, int count) {
+                  return exportOf<T>(lxpmCrossProduct_vava_32f, lxpmCrossProduct_vava_64f)(
+                      a, 3 * size, size, b, 3 * size, size, dst, 3 * size, size, count);
+              });
+    append<T>(cases, cache, "vav", "CrossProduct", "3", 3, {3, 3}, Results::Equal,
+              [](const T *a, const T *b, T *dst, int, int count) {
+                  return exportOf<T>(lxpmCrossProduct_vav_32f, lxpmCrossProduct_vav_64f)(a, 3 * size, size, b, size,
+                                                                                         dst, 3 * size, size, count);
+              });
+    for (const int n : {3, 4, 5, 6, 7, 8, 9, 12, 16}) {
+        append<T>(cases, cache, "ma", "FrobNorm", square(n), n, {n * n, 1}, Results::Rounded,
+                  [](const T *a, const T *, T *dst, int order, int count) {
+                      return exportOf<T>(lxpmFrobNorm_ma_32f, lxpmFrobNorm_ma_64f)(
+                          a, order * order * size, order * size, size, order, order, dst, count);
+                  });
+        append<T>(cases, cache, "ma", "Trace", square(n), n, {n * n, 1}, Results::Rounded,
+                  [](const T *a, const T *, T *dst, int order, int count) {
+                      return exportOf<T>(lxpmTrace_ma_32f, lxpmTrace_ma_64f)(a, order * order * size, order * size,
+                                                                             size, order, dst, count);
+                  });
+        append<T>(cases, cache, "ma", "Transpose", square(n), n, {n * n, n * n}, Results::Equal,
+                  [](const T *a, const T *, T *dst, int order, int count) {
+                      return exportOf<T>(lxpmTranspose_ma_32f, lxpmTranspose_ma_64f)(
+                          a, order * order * size, order * size, size, order, order, dst, order * order * size,
+                          order * size, size, count);
+                  });
+    }
+    // One matrix: as many as fit are transposed one after the other.
+    for (const int n : {1000, 2048}) {
+        append<T>(cases, memorySetting(), "m", "Transpose", square(n), n, {n * n, n * n}, Results::Equal,
+                  [](const T *a, const T *, T *dst, int order, int count) {
+                      LxpStatus status = lxpStatusOk;
+                      for (std::ptrdiff_t k = 0; k < count && status == lxpStatusOk; ++k) {
+                          const std::ptrdiff_t first = k * order * order;
+                          status = exportOf<T>(lxpmTranspose_m_32f, lxpmTranspose_m_64f)(
+                              a + first, order * size, size, order, order, dst + first, order * size, size);
+                      }
+                      return status;
+                  });
+    }
+}
+
+} // namespace
+
+void appendReductions(std::vector<Case> &cases) {
+    appendType<float>(cases);
+    appendType<double>(cases);
+}
+
+} // namespace lxpm::bench

@@ -1,0 +1,165 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "solvers/systems.h"
+
+#include "case.h"
+
+#include <algorithm>
+#include <functional>
+#include <initializer_list>
+#include <lxpm/solvers.h>
+#include <memory>
+#include <utility>
+
+namespace lxpm::bench {
+
+namespace {
+
+// What the calls of a case work on, dense.
+template <class T>
+struct Work {
+    int width;
+    int height;
+    int count;
+    std::vector<T> matrices;
+    std::vector<T> factors;
+    std::vector<int> index;
+    std::vector<T> buffer;
+    const T *numbers; // matrices as good as random
+    const T *right;
+    T *dst;
+
+    static constexpr int size = sizeof(T);
+    int row() const { return width * size; }
+    int object() const { return height * row(); }
+    int rightRow() const { return height * size; }
+};
+
+template <class T>
+using Function = std::function<LxpStatus(Work<T> &)>;
+
+// One function for each type.
+#define LXPM_BENCH_CALL(name, ...)                                                                                     \
+    [](Work<T> &w) {                                                                                                   \
+        constexpr int size = sizeof(T);                                                                                \
+        if constexpr (size == sizeof(float)) {                                                                         \
+            return name##_32f(__VA_ARGS__);                                                                            \
+        } else {                                                                                                       \
+            return name##_64f(__VA_ARGS__);                                                                            \
+        }                                                                                                              \
+    }
+
+template <class T>
+Function<T> factorLU() {
+    return LXPM_BENCH_CALL(lxpmLUDecomp_ma, w.matrices.data(), w.object(), w.row(), size, w.index.data(),
+                           w.factors.data(), w.object(), w.row(), size, w.width, w.count);
+}
+
+template <class T>
+Function<T> factorCholesky() {
+    return LXPM_BENCH_CALL(lxpmCholeskyDecomp_ma, w.matrices.data(), w.object(), w.row(), size, w.factors.data(),
+                           w.object(), w.row(), size, w.width, w.count);
+}
+
+template <class T>
+Function<T> factorQR() {
+    return LXPM_BENCH_CALL(lxpmQRDecomp_ma, w.matrices.data(), w.object(), w.row(), size, w.buffer.data(),
+                           w.factors.data(), w.object(), w.row(), size, w.width, w.height, w.count);
+}
+
+enum class Results { Compared, OfAnotherForm };
+
+// The first function prepares, the second one is measured.
+template <class T>
+void append(std::vector<Case> &cases, const std::string &name, int height, int width, std::size_t read,
+            std::size_t written, Results results, Function<T> before, Function<T> measured) {
+    const Setting &setting = cacheSetting();
+    const auto count = static_cast<int>(std::max<std::size_t>(8, setting.bytes / ((read + written) * sizeof(T))));
+    const auto prepare = [=](const Memory &memory) -> Call {
+        const std::size_t elements = std::size_t(height) * width * count;
+        auto work = std::make_shared<Work<T>>(
+            Work<T>{width, height, count, goodMatrices<T>(memory.source1(), height, width, count),
+                    std::vector<T>(elements), std::vector<int>(std::size_t(width) * count), std::vector<T>(height),
+                    static_cast<const T *>(memory.source1()), static_cast<const T *>(memory.source2()),
+                    static_cast<T *>(memory.result())});
+        if (before) {
+            before(*work);
+        }
+        return [=] { return measured(*work); };
+    };
+    const bool isFloat = sizeof(T) == sizeof(float);
+    const std::size_t slash = name.rfind('_');
+    cases.push_back(
+        {.group = setting.name + "-" + name.substr(slash + 1),
+         .name = name + (isFloat ? "_32f/" : "_64f/") + std::to_string(height) + "x" + std::to_string(width),
+         .dense = true,
+         .setting = setting,
+         .objects = count,
+         .bytesRead = count * read * sizeof(T),
+         .bytesWritten = count * written * sizeof(T),
+         .prepare = prepare,
+         .roundedElementSize = sizeof(T),
+         .comparesResults = results == Results::Compared});
+}
+
+template <class T>
+void appendOrder(std::vector<Case> &cases, int n) {
+    const int area = n * n;
+    append<T>(cases, "LUDecomp_ma", n, n, area, area, Results::OfAnotherForm, nullptr,
+              LXPM_BENCH_CALL(lxpmLUDecomp_ma, w.numbers, w.object(), w.row(), size, w.index.data(), w.dst, w.object(),
+                              w.row(), size, w.width, w.count));
+    append<T>(cases, "CholeskyDecomp_ma", n, n, area, area, Results::OfAnotherForm, nullptr,
+              LXPM_BENCH_CALL(lxpmCholeskyDecomp_ma, w.matrices.data(), w.object(), w.row(), size, w.dst, w.object(),
+                              w.row(), size, w.width, w.count));
+    append<T>(cases, "LUBackSubst_mava", n, n, area + n, n, Results::Compared, factorLU<T>(),
+              LXPM_BENCH_CALL(lxpmLUBackSubst_mava, w.factors.data(), w.object(), w.row(), size, w.index.data(),
+                              w.right, w.row(), size, w.dst, w.row(), size, w.width, w.count));
+    append<T>(cases, "LUBackSubst_mva", n, n, n, n, Results::Compared, factorLU<T>(),
+              LXPM_BENCH_CALL(lxpmLUBackSubst_mva, w.factors.data(), w.row(), size, w.index.data(), w.right, w.row(),
+                              size, w.dst, w.row(), size, w.width, w.count));
+    append<T>(cases, "CholeskyBackSubst_mava", n, n, area + n, n, Results::Compared, factorCholesky<T>(),
+              LXPM_BENCH_CALL(lxpmCholeskyBackSubst_mava, w.factors.data(), w.object(), w.row(), size, w.right, w.row(),
+                              size, w.dst, w.row(), size, w.width, w.count));
+    append<T>(cases, "CholeskyBackSubst_mva", n, n, n, n, Results::Compared, factorCholesky<T>(),
+              LXPM_BENCH_CALL(lxpmCholeskyBackSubst_mva, w.factors.data(), w.row(), size, w.right, w.row(), size, w.dst,
+                              w.row(), size, w.width, w.count));
+    append<T>(cases, "Det_ma", n, n, area, 1, Results::Compared, nullptr,
+              LXPM_BENCH_CALL(lxpmDet_ma, w.matrices.data(), w.object(), w.row(), size, w.width, w.dst, w.count));
+    append<T>(cases, "Invert_ma", n, n, area, area, Results::Compared, nullptr,
+              LXPM_BENCH_CALL(lxpmInvert_ma, w.matrices.data(), w.object(), w.row(), size, w.dst, w.object(), w.row(),
+                              size, w.width, w.count));
+}
+
+template <class T>
+void appendQR(std::vector<Case> &cases, int height, int width) {
+    const int area = height * width;
+    append<T>(cases, "QRDecomp_ma", height, width, area, area, Results::OfAnotherForm, nullptr,
+              LXPM_BENCH_CALL(lxpmQRDecomp_ma, w.numbers, w.object(), w.row(), size, w.buffer.data(), w.dst, w.object(),
+                              w.row(), size, w.width, w.height, w.count));
+    append<T>(cases, "QRBackSubst_mava", height, width, area + height, width, Results::Compared, factorQR<T>(),
+              LXPM_BENCH_CALL(lxpmQRBackSubst_mava, w.factors.data(), w.object(), w.row(), size, w.buffer.data(),
+                              w.right, w.rightRow(), size, w.dst, w.row(), size, w.width, w.height, w.count));
+    append<T>(cases, "QRBackSubst_mva", height, width, height, width, Results::Compared, factorQR<T>(),
+              LXPM_BENCH_CALL(lxpmQRBackSubst_mva, w.factors.data(), w.row(), size, w.buffer.data(), w.right,
+                              w.rightRow(), size, w.dst, w.row(), size, w.width, w.height, w.count));
+}
+
+template <class T>
+void appendType(std::vector<Case> &cases) {
+    for (const int n : {3, 4, 5, 6, 8, 16}) {
+        appendOrder<T>(cases, n);
+        appendQR<T>(cases, n, n);
+    }
+    appendQR<T>(cases, 6, 4);
+    appendQR<T>(cases, 16, 8);
+}
+
+} // namespace
+
+void appendSolvers(std::vector<Case> &cases) {
+    appendType<float>(cases);
+    appendType<double>(cases);
+}
+
+} // namespace lxpm::bench

@@ -1,0 +1,10 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "eigen/general_kernels.h"
+
+namespace lxpm {
+
+template LxpStatus solveGeneral<true>(const GeneralProblem<double> &, int, int, double *);
+
+} // namespace lxpm

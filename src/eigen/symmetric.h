@@ -1,0 +1,301 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// The symmetric eigenproblem over a number: Householder reduction to tridiagonal form, then the implicitly shifted QL
+// iteration. See runtime/numbers.h for what a number may be.
+//
+// Methods: B. N. Parlett, The Symmetric Eigenvalue Problem; the iteration is the implicit form of A. Dubrulle,
+// R. S. Martin and J. H. Wilkinson (Numer. Math. 12, 1968).
+//
+// Order: an int, or an std::integral_constant where it is known beforehand. The matrix is dense, row by row; nothing
+// below its diagonal is read.
+
+#include "eigen/step_masks.h"
+#include "eigen/twice.h"
+#include "runtime/numbers.h"
+
+#include <limits>
+#include <utility>
+
+namespace lxpm::symmetric {
+
+// Below this everything is negligible, whatever the scale of the matrix.
+template <class T>
+inline constexpr T epsilon = std::numeric_limits<T>::epsilon();
+
+// Sums of squares up to this are no longer accurate to all bits. Elements that small are far below epsilon.
+template <class T>
+inline constexpr T tiniestSquares = sizeof(T) == sizeof(float) ? T(0x1p-100) : T(0x1p-1000L);
+
+inline constexpr int mostSweeps = 30; // for one eigenvalue
+
+// The tridiagonal form of `a`: its diagonal in d, what stands beside it in e, which has a last element without meaning.
+// The reflectors stay in a: the vector of reflector k in row k behind the diagonal, its scale on it.
+template <class Order, class V, class Line>
+[[gnu::always_inline]] inline void reduce(Order order, V *a, V *d, Line &&e) {
+    using T = ElementOf<V>;
+    const V zero = constant<V>(0);
+    const V one = constant<V>(1);
+    for (int k = 0; k + 2 < order; ++k) {
+        V *v = a + k * order;
+        V tail = zero;
+        for (int j = k + 2; j < order; ++j) {
+            tail = tail + v[j] * v[j];
+        }
+        const V first = v[k + 1];
+        const auto isReduced = isLessEqual(tail, constant<V>(tiniestSquares<T>));
+        const V norm = root(first * first + tail);
+        const V reduced = choose(isLess(first, zero), norm, negated(norm));
+        e[k] = choose(isReduced, first, reduced);
+        d[k] = v[k];
+        // A reflector of zeros changes nothing.
+        v[k + 1] = choose(isReduced, zero, first - reduced);
+        for (int j = k + 2; j < order; ++j) {
+            v[j] = choose(isReduced, zero, v[j]);
+        }
+        const V scale = one / divisorUnless(isReduced, norm * (norm + magnitude(first)));
+        v[k] = scale;
+
+        // a - v q' - q v' with q = p - (scale (v p) / 2) v, p = scale a v. It is kept where d is not known yet.
+        V product = zero;
+        for (int i = k + 1; i < order; ++i) {
+            V sum = zero;
+            for (int j = k + 1; j < i; ++j) {
+                sum = sum + a[j * order + i] * v[j];
+            }
+            for (int j = i; j < order; ++j) {
+                sum = sum + a[i * order + j] * v[j];
+            }
+            d[i] = sum * scale;
+            product = product + v[i] * d[i];
+        }
+        const V half = constant<V>(0.5) * scale * product;
+        for (int i = k + 1; i < order; ++i) {
+            d[i] = d[i] - half * v[i];
+        }
+        for (int i = k + 1; i < order; ++i) {
+            for (int j = i; j < order; ++j) {
+                a[i * order + j] = a[i * order + j] - (v[i] * d[j] + d[i] * v[j]);
+            }
+        }
+    }
+    if (order > 1) {
+        d[order - 2] = a[(order - 2) * order + order - 2];
+        e[order - 2] = a[(order - 2) * order + order - 1];
+    }
+    d[order - 1] = a[order * order - 1];
+    e[order - 1] = zero;
+}
+
+// The product of the reflectors in their place, transposed: row j becomes the vector of eigenvalue j.
+template <class Order, class V>
+[[gnu::always_inline]] inline void accumulate(Order order, V *a) {
+    const V zero = constant<V>(0);
+    const V one = constant<V>(1);
+    a[order * order - 1] = one;
+    for (int k = order - 3; k >= 0; --k) {
+        const V *v = a + k * order;
+        const V scale = v[k];
+        for (int i = k + 1; i < order; ++i) {
+            V *row = a + i * order;
+            // In front of the reflector the product is the identity in row and column k + 1.
+            V factor;
+            if (i == k + 1) {
+                factor = v[k + 1] * scale;
+                row[k + 1] = one - factor * v[k + 1];
+                for (int j = k + 2; j < order; ++j) {
+                    row[j] = zero - factor * v[j];
+                }
+                continue;
+            }
+            V sum = zero;
+            for (int j = k + 2; j < order; ++j) {
+                sum = sum + row[j] * v[j];
+            }
+            factor = sum * scale;
+            row[k + 1] = zero - factor * v[k + 1];
+            for (int j = k + 2; j < order; ++j) {
+                row[j] = row[j] - factor * v[j];
+            }
+        }
+    }
+    for (int j = 0; j < order; ++j) {
+        a[j] = j == 0 ? one : zero;
+        if (j > 0) {
+            a[j * order] = zero;
+        }
+    }
+}
+
+// Turns d and e, and the rows of z unless it is null, the other way round where `mask` holds.
+template <class Order, class V, class Line>
+[[gnu::always_inline]] inline void mirror(MaskOf<V> mask, Order order, V *d, Line &&e, V *z) {
+    if (none(mask)) {
+        return;
+    }
+    for (int i = 0; i < order / 2; ++i) {
+        exchange(mask, d[i], d[order - 1 - i]);
+        if (z != nullptr) {
+            for (int j = 0; j < order; ++j) {
+                exchange(mask, z[i * order + j], z[(order - 1 - i) * order + j]);
+            }
+        }
+    }
+    for (int i = 0; i < (order - 1) / 2; ++i) {
+        exchange(mask, e[i], e[order - 2 - i]);
+    }
+}
+
+// The eigenvalues of the tridiagonal matrix d, e, found in ascending order of their place in d; rows of z are rotated
+// with them unless it is null. Returns where the iteration did not converge, and leaves `product`, that of the
+// eigenvalues. Such a lane of several ends the iteration for all.
+template <int most, class Order, class V, class Line>
+[[gnu::always_inline]] inline MaskOf<V> iterate(Order order, V *d, Line &&e, V *z, V &product) {
+    using T = ElementOf<V>;
+    const V zero = constant<V>(0);
+    const V one = constant<V>(1);
+    const V eps = constant<V>(epsilon<T>);
+    product = one;
+    for (int first = 0; first < order; ++first) {
+        for (int sweeps = 0;; ++sweeps) {
+            // The block that starts here ends in front of the first negligible element.
+            StepMasks<V, most> block;
+            auto inBlock = everywhere<V>(true);
+            V last = d[first];
+            int end = first;
+            for (; end < order - 1; ++end) {
+                inBlock = without(inBlock, isLessEqual(magnitude(constant<V>(0.5) * e[end]), eps));
+                if (none(inBlock)) {
+                    break;
+                }
+                block.set(end, inBlock);
+                last = choose(inBlock, d[end + 1], last);
+            }
+            if (end == first) {
+                break;
+            }
+            const auto active = block.at(first);
+            if (sweeps == mostSweeps) {
+                return active;
+            }
+
+            const V beside = e[first];
+            V g = (d[first + 1] - d[first]) / divisorWhere(active, beside + beside);
+            V r = root(one + g * g);
+            const V divisor = choose(isLess(eps, g), g + r, g - r);
+            g = last - d[first] + beside / divisorWhere(active, divisor);
+            V s = one;
+            V c = one;
+            V p = zero;
+            auto running = active;
+            for (int i = end - 1; i >= first; --i) {
+                MaskOf<V> rotating = both(block.at(i), running);
+                const V f = s * e[i];
+                const V b = c * e[i];
+                r = root(f * f + g * g);
+                const MaskOf<V> stops = both(rotating, isLessEqual(r, eps));
+                if (i + 1 < end) {
+                    // At the end of its block a lane stores a zero.
+                    e[i + 1] = choose(rotating, choose(block.at(i + 1), r, zero), e[i + 1]);
+                } else {
+                    e[i + 1] = choose(rotating, zero, e[i + 1]);
+                }
+                if (any(stops)) {
+                    d[i + 1] = choose(stops, d[i + 1] - p, d[i + 1]);
+                    e[i] = choose(stops, b, e[i]);
+                    running = without(running, stops);
+                    if (none(running)) {
+                        break;
+                    }
+                    rotating = without(rotating, stops);
+                }
+                const V length = divisorWhere(rotating, r);
+                const V sine = f / length;
+                const V cosine = g / length;
+                const V h = d[i + 1] - p;
+                const V t = (d[i] - h) * sine + (cosine + cosine) * b;
+                s = choose(rotating, sine, s);
+                c = choose(rotating, cosine, c);
+                p = choose(rotating, sine * t, p);
+                d[i + 1] = choose(rotating, h + p, d[i + 1]);
+                g = choose(rotating, cosine * t - b, g);
+                if (z != nullptr) {
+                    V *low = z + i * order;
+                    V *high = low + order;
+                    if (all(rotating)) {
+                        for (int j = 0; j < order; ++j) {
+                            const V x = high[j];
+                            high[j] = s * low[j] + c * x;
+                            low[j] = c * low[j] - s * x;
+                        }
+                    } else if (any(rotating)) {
+                        for (int j = 0; j < order; ++j) {
+                            const V x = high[j];
+                            high[j] = choose(rotating, s * low[j] + c * x, x);
+                            low[j] = choose(rotating, c * low[j] - s * x, low[j]);
+                        }
+                    }
+                }
+            }
+            d[first] = choose(running, d[first] - p, d[first]);
+            e[first] = choose(running, g, e[first]);
+        }
+        product = product * d[first];
+    }
+    return everywhere<V>(false);
+}
+
+// Descending order by selection: of the values behind each place the largest comes to it, the first of equals, NaN
+// never. Rows of z, unless it is null, follow their values.
+template <class Order, class V>
+[[gnu::always_inline]] inline void sort(Order order, V *d, V *z) {
+    for (int i = 0; i + 1 < order; ++i) {
+        V largest = d[i];
+        V place = constant<V>(i);
+        for (int j = i + 1; j < order; ++j) {
+            const auto isLarger = isLess(largest, d[j]);
+            largest = choose(isLarger, d[j], largest);
+            place = choose(isLarger, constant<V>(j), place);
+        }
+        for (int j = i + 1; j < order; ++j) {
+            const auto isHere = isEqual(place, constant<V>(j));
+            d[j] = choose(isHere, d[i], d[j]);
+            if (z != nullptr && any(isHere)) {
+                for (int k = 0; k < order; ++k) {
+                    exchange(isHere, z[i * order + k], z[j * order + k]);
+                }
+            }
+        }
+        d[i] = largest;
+    }
+}
+
+// Where a computation failed, and how.
+template <class V>
+struct Failures {
+    MaskOf<V> unconverged;
+    MaskOf<V> singular;
+};
+
+// From a matrix to eigenvalues, in d, and eigenvectors, in the rows of a, if they are wanted. Values alone stay in the
+// order in which they stand where the matrix is singular.
+template <int most, bool wantsVectors, class Order, class V, class Line>
+[[gnu::always_inline]] inline Failures<V> solve(Order order, V *a, V *d, Line &&e) {
+    using T = ElementOf<V>;
+    reduce(order, a, d, e);
+    if constexpr (wantsVectors) {
+        accumulate(order, a);
+    }
+    V *z = wantsVectors ? a : nullptr;
+    // The larger end of the diagonal comes first.
+    const auto isMirrored = isLess(magnitude(d[0]), magnitude(d[order - 1]));
+    mirror(isMirrored, order, d, e, z);
+    V product;
+    const auto unconverged = iterate<most>(order, d, e, z, product);
+    mirror(isMirrored, order, d, e, z);
+    const auto singular = isLessEqual(magnitude(product), constant<V>(epsilon<T>));
+    return {unconverged, singular};
+}
+
+} // namespace lxpm::symmetric

@@ -1,0 +1,10 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "eigen/symmetric_kernels.h"
+
+namespace lxpm {
+
+template LxpStatus solveSymmetric<true>(const SymmetricProblem<double> &, int, int, double *);
+
+} // namespace lxpm

@@ -1,0 +1,94 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "elementwise/load_identity.h"
+
+#include "elementwise/copy_elements.h"
+#include "elementwise/threshold.h"
+#include "runtime/parallel.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace lxpm {
+
+namespace {
+
+constexpr InOrder order = {Check::Pointers, Check::Sizes, Check::Count, Check::Strides, Check::Offsets};
+
+// Matrices of up to so many elements are copies of one that is made ready; larger ones are written in place.
+constexpr std::ptrdiff_t largestCopied = 1024;
+
+template <class T>
+LxpStatus copyReadyMade(bool parallel, int count, int rows, int columns, const Addresses<T> &dst) {
+    T identity[largestCopied];
+    std::fill_n(identity, rows * columns, T(0));
+    for (int i = 0; i < std::min(rows, columns); ++i) {
+        identity[i * columns + i] = 1;
+    }
+    const std::ptrdiff_t row = columns * std::ptrdiff_t(sizeof(T));
+    return copyElements<T>(parallel, count, rows, columns,
+                           {dst, {Addresses<const T>::strided(identity, {0, row, sizeof(T)})}});
+}
+
+// Whether no row's elements stand among those of another.
+template <class T>
+bool areRowsApart(const Addresses<T> &matrix, std::ptrdiff_t rows, std::ptrdiff_t columns) {
+    const auto [object, row, column] = matrix.step;
+    return matrix.pointerStep[1] == 0 && (row >= column * columns || column >= row * rows);
+}
+
+// Writes one value to all rows.
+template <class T>
+void fill(T value, std::ptrdiff_t rows, std::ptrdiff_t columns, const Addresses<T> &dst) {
+    copyObjects<T>({1, rows, columns}, {dst, {Addresses<const T>::strided(&value, {0, 0, 0})}});
+}
+
+// Zeros, then the ones of the diagonal: row by row where rows overlap, since what stands there last is the last row's.
+template <class T>
+void writeInPlace(std::ptrdiff_t rows, std::ptrdiff_t columns, const Addresses<T> &dst) {
+    Addresses<T> diagonal = dst;
+    diagonal.step[1] += diagonal.step[2];
+    diagonal.pointerStep[1] += diagonal.pointerStep[2];
+    const std::ptrdiff_t atOnce = areRowsApart(dst, rows, columns) ? rows : 1;
+    for (std::ptrdiff_t row = 0; row < rows; row += atOnce) {
+        fill(T(0), atOnce, columns, dst.from(0, row));
+        if (row < columns) {
+            fill(T(1), std::min(atOnce, columns), 1, diagonal.from(0, row));
+        }
+    }
+}
+
+template <class T>
+LxpStatus loadIdentities(bool parallel, int count, int rows, int columns, const Addresses<T> &dst) {
+    if (std::ptrdiff_t(rows) * columns <= largestCopied) {
+        return copyReadyMade(parallel, count, rows, columns, dst);
+    }
+    return overObjects(parallel, count, [&](int first, int objects) {
+        for (int k = 0; k < objects; ++k) {
+            writeInPlace(rows, columns, dst.from(std::ptrdiff_t(first) + k));
+        }
+        return lxpStatusOk;
+    });
+}
+
+} // namespace
+
+template <Code operands, class T, Layout layout>
+LxpStatus LoadIdentityMember<operands, T, layout>::run(const Arguments &arguments) {
+    if (const LxpStatus status = firstFailure<order>(arguments); status != lxpStatusOk) {
+        return status;
+    }
+    const auto &[destination, size, number] = arguments.parts;
+    const int width = size.width();
+    const int height = size.height();
+    const int count = number.value;
+
+    const bool parallel = movedByOneThread.isParallel(Work(width) * height * count);
+    return loadIdentities<T>(parallel, count, height, width, destination.addresses(height, width));
+}
+
+} // namespace lxpm
+
+#define EXPORT_LIST "elementwise/load_identity.list.h"
+#include "runtime/instantiate.h"

@@ -1,0 +1,63 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// The product kernels, one set for all operand codes and layouts: a transposed operand has its steps exchanged, a
+// vector is a row.
+//
+// Bits. Every element of a result is a sum that starts from +0 and takes its products in ascending order, each product
+// and each sum rounded. Registers hold different elements of results, never parts of one sum, so all paths agree.
+
+#include "runtime/addresses.h"
+
+#include <lxpm/types.h>
+
+#include <cstddef>
+#include <optional>
+
+namespace lxpm {
+
+// dst = a * b + addend, objects of rows x inner, inner x columns, and rows x columns.
+template <class T>
+struct MatrixProduct {
+    std::ptrdiff_t rows;
+    std::ptrdiff_t inner;
+    std::ptrdiff_t columns;
+    Addresses<const T> a;
+    Addresses<const T> b;
+    std::optional<Addresses<const T>> addend;
+    Addresses<T> dst;
+
+    // The same product without what stands before an object.
+    MatrixProduct from(std::ptrdiff_t object) const {
+        MatrixProduct later = {rows, inner, columns, a.from(object), b.from(object), std::nullopt, dst.from(object)};
+        if (addend) {
+            later.addend = addend->from(object);
+        }
+        return later;
+    }
+};
+
+// dst = matrix * vector + addend
+template <class T>
+struct VectorProduct {
+    std::ptrdiff_t rows;
+    std::ptrdiff_t inner;
+    Addresses<const T> matrix;
+    Addresses<const T> vector;
+    std::optional<Addresses<const T>> addend;
+    Addresses<T> dst;
+};
+
+template <class T>
+LxpStatus multiplyMatrices(bool parallel, int count, const MatrixProduct<T> &product);
+
+template <class T>
+LxpStatus multiplyVector(bool parallel, int count, const VectorProduct<T> &product);
+
+extern template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<float> &);
+extern template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<double> &);
+extern template LxpStatus multiplyVector(bool, int, const VectorProduct<float> &);
+extern template LxpStatus multiplyVector(bool, int, const VectorProduct<double> &);
+
+} // namespace lxpm

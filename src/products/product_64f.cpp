@@ -1,0 +1,11 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "products/product_kernels.h"
+
+namespace lxpm {
+
+template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<double> &);
+template LxpStatus multiplyVector(bool, int, const VectorProduct<double> &);
+
+} // namespace lxpm

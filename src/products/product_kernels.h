@@ -1,0 +1,157 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Which kernel computes a product. For the sources that instantiate them, one for each type.
+
+#include "products/group_product.h"
+#include "products/lane_product.h"
+#include "products/panel_product.h"
+#include "products/product.h"
+#include "products/staging.h"
+#include "products/unrolled_product.h"
+#include "runtime/parallel.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace lxpm {
+
+// The unrolled kernel that fits what is given.
+template <class T, int Order>
+void chooseUnrolled(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+    const bool singleB = p.b.isSingle();
+    if (p.rows == 1 && p.addend) {
+        return singleB ? multiplyUnrolled<T, Order, 1, Given{true, false, true}>(p, count)
+                       : multiplyUnrolled<T, Order, 1, Given{false, false, true}>(p, count);
+    }
+    if (p.rows == 1) {
+        return singleB ? multiplyUnrolled<T, Order, 1, Given{true, false, false}>(p, count)
+                       : multiplyUnrolled<T, Order, 1, Given{false, false, false}>(p, count);
+    }
+
+    constexpr std::ptrdiff_t touching = Order * sizeof(T);
+    const bool denseRows = p.dst.step[1] == touching;
+    if constexpr (std::is_same_v<T, float> && Order == 4) {
+        if (p.a.rowsTouch()) {
+            return singleB ? multiplyOrder4<true>(p, count) : multiplyOrder4<false>(p, count);
+        }
+    }
+    if constexpr (std::is_same_v<T, float> && Order == 3) {
+        const bool isDense = p.a.rowsTouch() && p.a.step[1] == touching && (singleB || p.b.step[1] == touching);
+        if (isDense && count > 1) {
+            denseRows
+                ? singleB ? multiplyPairsOfOrder3<true, true>(p, count) : multiplyPairsOfOrder3<false, true>(p, count)
+            : singleB ? multiplyPairsOfOrder3<true, false>(p, count)
+                      : multiplyPairsOfOrder3<false, false>(p, count);
+            if (count % 2 != 0) {
+                multiplyUnrolled<T, Order, Order, Given{false, false, false}>(p.from(count - 1), 1);
+            }
+            return;
+        }
+    }
+    if (denseRows) {
+        return singleB ? multiplyUnrolled<T, Order, Order, Given{true, true, false}>(p, count)
+                       : multiplyUnrolled<T, Order, Order, Given{false, true, false}>(p, count);
+    }
+    return singleB ? multiplyUnrolled<T, Order, Order, Given{true, false, false}>(p, count)
+                   : multiplyUnrolled<T, Order, Order, Given{false, false, false}>(p, count);
+}
+
+// Objects of an unrolled order in any layout: a few at a time, copied where the kernel cannot read or write them.
+template <class T, int Order>
+[[gnu::noinline]] void multiplyStaged(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+    constexpr std::ptrdiff_t capacity = 512;
+    constexpr std::ptrdiff_t area = Order * Order;
+    StagedSource<T, capacity> a(p.a, !p.a.movesByBytes(), p.rows, Order);
+    StagedSource<T, capacity> b(p.b, !p.b.rowsTouch(), Order, Order);
+    StagedSource<T, capacity> addend(p.addend.value_or(p.b), p.addend && !p.addend->rowsTouch(), p.rows, Order);
+    StagedDestination<T, capacity> dst(p.dst, p.rows, Order);
+    const std::ptrdiff_t piece = capacity / area;
+    for (std::ptrdiff_t first = 0; first < count; first += piece) {
+        const std::ptrdiff_t objects = std::min(piece, count - first);
+        MatrixProduct<T> dense = {p.rows,
+                                  Order,
+                                  Order,
+                                  a.objects(first, objects),
+                                  b.objects(first, objects),
+                                  std::nullopt,
+                                  dst.objects(first)};
+        if (p.addend) {
+            dense.addend = addend.objects(first, objects);
+        }
+        chooseUnrolled<T, Order>(dense, objects);
+        dst.finish(first, objects);
+    }
+}
+
+template <class T, int Order>
+void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+    const bool isUsable =
+        p.a.movesByBytes() && p.b.rowsTouch() && p.dst.rowsTouch() && (!p.addend || p.addend->rowsTouch());
+    if (isUsable) {
+        chooseUnrolled<T, Order>(p, count);
+        return;
+    }
+    std::ptrdiff_t done = 0;
+    if (LaneProduct<T, Order>::accepts(p)) {
+        done = LaneProduct<T, Order>::run(p, count);
+    }
+    if (done < count) {
+        multiplyStaged<T, Order>(p.from(done), count - done);
+    }
+}
+
+// The objects of one thread.
+template <class T>
+void multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+    const bool isUnrolled = p.inner == p.columns && (p.rows == 1 || p.rows == p.inner);
+    switch (isUnrolled ? p.inner : 0) {
+    case 3:
+        return multiplySmall<T, 3>(p, count);
+    case 4:
+        return multiplySmall<T, 4>(p, count);
+    case 5:
+        return multiplySmall<T, 5>(p, count);
+    case 6:
+        return multiplySmall<T, 6>(p, count);
+    case 7:
+        return multiplySmall<T, 7>(p, count);
+    case 8:
+        return multiplySmall<T, 8>(p, count);
+    default: {
+        const std::ptrdiff_t done = GroupProduct<T>::isBetter(p, count) ? GroupProduct<T>::run(p, count) : 0;
+        if (done < count) {
+            PanelProduct<T>::run(p.from(done), count - done);
+        }
+    }
+    }
+}
+
+template <class T>
+LxpStatus multiplyMatrices(bool parallel, int count, const MatrixProduct<T> &product) {
+    MatrixProduct<T> p = product;
+    if (!p.dst.rowsTouch() && p.dst.transposed().rowsTouch()) {
+        // The kernels write rows: the transposed result is the product of the transposed operands, exchanged.
+        std::swap(p.rows, p.columns);
+        p.a = product.b.transposed();
+        p.b = product.a.transposed();
+        p.dst = product.dst.transposed();
+    }
+    return overObjects(parallel, count, [&](int first, int objects) {
+        multiplyObjects(p.from(first), objects);
+        return lxpStatusOk;
+    });
+}
+
+// As a row: the vector times the transposed matrix.
+template <class T>
+LxpStatus multiplyVector(bool parallel, int count, const VectorProduct<T> &v) {
+    const MatrixProduct<T> p = {1, v.inner, v.rows, v.vector, v.matrix.transposed(), v.addend, v.dst};
+    return overObjects(parallel, count, [&](int first, int objects) {
+        multiplyObjects(p.from(first), objects);
+        return lxpStatusOk;
+    });
+}
+
+} // namespace lxpm

@@ -1,0 +1,219 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Groups: as many objects of an array as a register has lanes, one object in each lane. A reader brings columns of
+// their elements into registers. How it does so depends on how the elements stand in memory:
+//
+//   Rows      the elements of a row touch: four of each object are loaded at once and turned in registers
+//             (PointedRows: through a pointer to each object)
+//   Objects   the same element of successive objects touches: a column is one load
+//   Same      a single vector that is used with every object of the array, as a dense copy (SingleVector)
+//   Apart     anything else: one by one
+//
+// Nothing behind the last element of an array is read.
+
+#include "runtime/addresses.h"
+#include "runtime/lanes.h"
+
+#include <array>
+#include <cstddef>
+#include <utility>
+
+namespace lxpm {
+
+enum class Reading { Rows, PointedRows, Objects, Same, Apart };
+
+template <class T>
+inline Reading readingOf(const Addresses<const T> &source) {
+    const bool inRow = source.pointerStep[1] == 0 && source.pointerStep[2] == 0;
+    if (source.pointerStep[0] == 0 && source.step[0] == 0) {
+        return Reading::Same;
+    }
+    if (source.step[2] == sizeof(T) && inRow) {
+        return source.pointerStep[0] == 0 ? Reading::Rows : Reading::PointedRows;
+    }
+    return source.step[0] == sizeof(T) && source.pointerStep[0] == 0 ? Reading::Objects : Reading::Apart;
+}
+
+// Columns of a group, as many as are asked for.
+template <class T>
+using GroupColumns = std::array<Group<T>, 4>;
+
+// The first `columns` elements of eight rows. ReadsOn: there are four elements that may be read.
+template <int columns, bool readsOn>
+[[gnu::always_inline]] inline GroupColumns<float> columnsOf(const std::array<const float *, 8> &row) {
+    GroupColumns<float> group;
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) {
+        if constexpr (columns == 4 || readsOn) {
+            group[i] = loadHalves(row[i], row[i + 4]);
+        } else {
+            group[i] = joined(loadFirst<columns>(row[i]), loadFirst<columns>(row[i + 4]));
+        }
+    }
+    transposeHalves(group);
+    return group;
+}
+
+// The same of four rows, two columns at a time.
+template <int columns, bool>
+[[gnu::always_inline]] inline GroupColumns<double> columnsOf(const std::array<const double *, 4> &row) {
+    if constexpr (columns == 1) {
+        return {Group<double>{_mm256_setr_pd(*row[0], *row[1], *row[2], *row[3])}};
+    } else {
+        const auto pair = [&](int column) __attribute__((always_inline)) {
+            std::array<Lanes<double, 4>, 2> lanes = {loadHalves(row[0] + column, row[2] + column),
+                                                     loadHalves(row[1] + column, row[3] + column)};
+            transposeHalves(lanes);
+            return lanes;
+        };
+        const auto first = pair(0);
+        if constexpr (columns == 2) {
+            return {first[0], first[1]};
+        } else {
+            const auto last = pair(columns - 2);
+            if constexpr (columns == 3) {
+                return {first[0], first[1], last[1]};
+            } else {
+                return {first[0], first[1], last[0], last[1]};
+            }
+        }
+    }
+}
+
+template <class T, Reading reading, std::ptrdiff_t Step = 0>
+class GroupReader;
+
+// Step: bytes from object to object where they are known beforehand, else 0.
+template <class T, std::ptrdiff_t Step>
+class GroupReader<T, Reading::Rows, Step> {
+public:
+    GroupReader(const Addresses<const T> &source, std::ptrdiff_t first)
+        : start(shifted(source.base, source.offset + first * source.step[0])), step(Step != 0 ? Step : source.step[0]),
+          rowStep(source.step[1]) {}
+
+    template <int columns, bool readsOn = false>
+    [[gnu::always_inline]] GroupColumns<T> read(std::ptrdiff_t row, std::ptrdiff_t column) const {
+        return objects<columns, readsOn>(shifted(start, row * rowStep) + column,
+                                         std::make_integer_sequence<int, groupSize<T>>());
+    }
+
+private:
+    template <int columns, bool readsOn, int... object>
+    [[gnu::always_inline]] GroupColumns<T> objects(const T *first, std::integer_sequence<int, object...>) const {
+        return columnsOf<columns, readsOn>({shifted(first, object * step)...});
+    }
+
+    const T *start;
+    std::ptrdiff_t step;
+    std::ptrdiff_t rowStep;
+};
+
+template <class T>
+class GroupReader<T, Reading::PointedRows, 0> {
+public:
+    GroupReader(const Addresses<const T> &source, std::ptrdiff_t first)
+        : start(source.pointers + first), offset(source.offset), rowStep(source.step[1]) {}
+
+    template <int columns, bool = false>
+    [[gnu::always_inline]] GroupColumns<T> read(std::ptrdiff_t row, std::ptrdiff_t column) const {
+        return objects<columns>(offset + row * rowStep + column * static_cast<std::ptrdiff_t>(sizeof(T)),
+                                std::make_integer_sequence<int, groupSize<T>>());
+    }
+
+private:
+    template <int columns, int... object>
+    [[gnu::always_inline]] GroupColumns<T> objects(std::ptrdiff_t bytes, std::integer_sequence<int, object...>) const {
+        return columnsOf<columns, false>({shifted(start[object], bytes)...});
+    }
+
+    const T *const *start;
+    std::ptrdiff_t offset;
+    std::ptrdiff_t rowStep;
+};
+
+template <class T>
+class GroupReader<T, Reading::Objects, 0> {
+public:
+    GroupReader(const Addresses<const T> &operand, std::ptrdiff_t firstObject) : source(operand), first(firstObject) {}
+
+    template <int columns, bool = false>
+    [[gnu::always_inline]] GroupColumns<T> read(std::ptrdiff_t row, std::ptrdiff_t column) const {
+        GroupColumns<T> group;
+#pragma GCC unroll 4
+        for (int i = 0; i < columns; ++i) {
+            group[i] = Group<T>::load(source.at(first, row, column + i));
+        }
+        return group;
+    }
+
+private:
+    const Addresses<const T> &source;
+    std::ptrdiff_t first;
+};
+
+template <class T>
+class GroupReader<T, Reading::Same, 0> {
+public:
+    GroupReader(const Addresses<const T> &source, std::ptrdiff_t) : first(source.base) {}
+
+    template <int columns, bool = false>
+    [[gnu::always_inline]] GroupColumns<T> read(std::ptrdiff_t, std::ptrdiff_t column) const {
+        return splats(first + column, std::make_integer_sequence<int, columns>());
+    }
+
+private:
+    template <int... column>
+    [[gnu::always_inline]] static GroupColumns<T> splats(const T *from, std::integer_sequence<int, column...>) {
+        return {broadcast(from + column)...};
+    }
+
+    const T *first;
+};
+
+// A single vector in the form in which Same reads it: a dense copy.
+template <class T>
+class SingleVector {
+public:
+    static constexpr int longest = 64;
+
+    SingleVector(const Addresses<const T> &source, int length) {
+        for (int i = 0; i < length; ++i) {
+            copy[i] = *source.at(0, 0, i);
+        }
+    }
+
+    Addresses<const T> addresses() const { return Addresses<const T>::strided(copy, {0, 0, sizeof(T)}); }
+
+private:
+    T copy[longest];
+};
+
+template <class T>
+class GroupReader<T, Reading::Apart, 0> {
+public:
+    GroupReader(const Addresses<const T> &operand, std::ptrdiff_t firstObject) : source(operand), first(firstObject) {}
+
+    template <int columns, bool = false>
+    [[gnu::always_inline]] GroupColumns<T> read(std::ptrdiff_t row, std::ptrdiff_t column) const {
+        GroupColumns<T> group;
+#pragma GCC unroll 4
+        for (int i = 0; i < columns; ++i) {
+            group[i] = gathered(row, column + i, std::make_integer_sequence<int, groupSize<T>>());
+        }
+        return group;
+    }
+
+private:
+    template <int... object>
+    [[gnu::always_inline]] Group<T> gathered(std::ptrdiff_t row, std::ptrdiff_t column,
+                                             std::integer_sequence<int, object...>) const {
+        return {typename Group<T>::Vector{*source.at(first + object, row, column)...}};
+    }
+
+    const Addresses<const T> &source;
+    std::ptrdiff_t first;
+};
+
+} // namespace lxpm

@@ -1,0 +1,324 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Sums of products: of one operand with itself (norms), or of two (dot products), one sum for each object of an array.
+// A sum starts from +0 and goes by rows in one of two orders, whatever else is computed beside it:
+//
+//   ascending   one term after the other; alone, or with one object in each lane
+//   split       term j of a row is added to partial sum j mod P, P = 32 for float and 16 for double; then the upper
+//               half of the partial sums is added to the lower half until one is left
+//
+// so that an object's sum does not depend on its place in the array, the number of objects or of threads.
+
+#include "products/readers.h"
+#include "runtime/parallel.h"
+
+#include <array>
+#include <cstddef>
+#include <utility>
+
+namespace lxpm {
+
+// What becomes of a sum.
+struct PlainSum {
+    template <class Number>
+    Number operator()(Number sum) const {
+        return sum;
+    }
+};
+
+struct RootOfSum {
+    template <class Number>
+    Number operator()(Number sum) const {
+        return root(sum);
+    }
+};
+
+// Rows of this length and above are split where their elements touch.
+inline constexpr int shortestSplit = 16;
+
+template <class T, std::size_t sources>
+struct SumOperands {
+    std::array<Addresses<const T>, sources> src;
+    T *dst;
+
+    SumOperands from(std::ptrdiff_t object) const {
+        SumOperands later = {src, dst + object};
+        for (auto &source : later.src) {
+            source = source.from(object);
+        }
+        return later;
+    }
+};
+
+template <class T, class Finish, std::size_t sources>
+class Sums {
+public:
+    using Operands = SumOperands<T, sources>;
+
+    static void split(const Operands &shared, int rows, int columns, int objects) {
+        const Operands operands = shared; // a copy that no store below can reach
+        std::ptrdiff_t object = 0;
+        for (; object + groupSize<T> <= objects; object += groupSize<T>) {
+            std::array<Group<T>, groupSize<T>> partial;
+#pragma GCC unroll 1
+            for (int i = 0; i < groupSize<T>; ++i) {
+                partial[i] = splitSum(operands.src, rows, columns, object + i, Index());
+            }
+            Finish()(sumsOverLanes(partial)).store(operands.dst + object);
+        }
+        for (; object < objects; ++object) {
+            operands.dst[object] = Finish()(sumOverLanes(splitSum(operands.src, rows, columns, object, Index())));
+        }
+    }
+
+    static void ascending(const Operands &operands, int rows, int columns, int objects) {
+        if (rows > 1 && rowsFollow(operands, columns)) {
+            columns *= rows;
+            rows = 1;
+        }
+        const std::ptrdiff_t inGroups = objects / groupSize<T> * groupSize<T>;
+        if (inGroups > 0) {
+            overGroups(operands, rows, columns, objects);
+        }
+        for (std::ptrdiff_t object = inGroups; object < objects; ++object) {
+            operands.dst[object] = Finish()(sumOfOne(operands.src, rows, columns, object));
+        }
+    }
+
+private:
+    using Index = std::make_index_sequence<sources>;
+    using Groups = void (*)(const Operands &, int rows, int columns, std::ptrdiff_t objects);
+
+    template <class Number>
+    [[gnu::always_inline]] static Number product(Number a) {
+        return a * a;
+    }
+    template <class Number>
+    [[gnu::always_inline]] static Number product(Number a, Number b) {
+        return a * b;
+    }
+
+    // Split.
+
+    template <std::size_t... s>
+    [[gnu::always_inline]] static Group<T> splitSum(const std::array<Addresses<const T>, sources> &src, int rows,
+                                                    std::ptrdiff_t columns, std::ptrdiff_t object,
+                                                    std::index_sequence<s...>) {
+        std::array<Group<T>, 4> partial = {Group<T>::splat(0), Group<T>::splat(0), Group<T>::splat(0),
+                                           Group<T>::splat(0)};
+        for (int row = 0; row < rows; ++row) {
+            addRow(partial, columns, src[s].at(object, row, 0)...);
+        }
+        return (partial[0] + partial[2]) + (partial[1] + partial[3]);
+    }
+
+    template <class... Pointers>
+    [[gnu::always_inline]] static void addRow(std::array<Group<T>, 4> &partial, std::ptrdiff_t n,
+                                              const Pointers *...src) {
+        constexpr int lanes = groupSize<T>;
+        std::ptrdiff_t i = 0;
+        for (; i + 4 * lanes <= n; i += 4 * lanes) {
+            partial[0] = partial[0] + product(Group<T>::load(src + i)...);
+            partial[1] = partial[1] + product(Group<T>::load(src + i + lanes)...);
+            partial[2] = partial[2] + product(Group<T>::load(src + i + 2 * lanes)...);
+            partial[3] = partial[3] + product(Group<T>::load(src + i + 3 * lanes)...);
+        }
+        addEnd<0>(partial, n - i, (src + i)...);
+    }
+
+    // The last n elements of a row, fewer than the partial sums from register r on.
+    template <int r, class... Pointers>
+    [[gnu::always_inline]] static void addEnd(std::array<Group<T>, 4> &partial, std::ptrdiff_t n,
+                                              const Pointers *...src) {
+        constexpr int lanes = groupSize<T>;
+        if (n >= lanes) {
+            partial[r] = partial[r] + product(Group<T>::load(src)...);
+            if constexpr (r < 3) {
+                addEnd<r + 1>(partial, n - lanes, (src + lanes)...);
+            }
+        } else if (n > 0) { // the lanes beyond add 0 * 0 to a sum, which leaves it as it is
+            partial[r] = partial[r] + product(loadSome(src, n)...);
+        }
+    }
+
+    // Ascending.
+
+    static bool rowsFollow(const Operands &operands, std::ptrdiff_t columns) {
+        bool follow = true;
+        for (const auto &source : operands.src) {
+            follow &=
+                source.step[1] == columns * source.step[2] && source.pointerStep[1] == columns * source.pointerStep[2];
+        }
+        return follow;
+    }
+
+    static T sumOfOne(const std::array<Addresses<const T>, sources> &src, int rows, int columns,
+                      std::ptrdiff_t object) {
+        T sum = 0;
+        for (int row = 0; row < rows; ++row) {
+            for (int column = 0; column < columns; ++column) {
+                sum += [&]<std::size_t... s>(std::index_sequence<s...>) {
+                    return product(*src[s].at(object, row, column)...);
+                }
+                (Index());
+            }
+        }
+        return sum;
+    }
+
+    // All whole groups: sources that are all read alike, but for a single vector.
+    static void overGroups(const Operands &operands, int rows, int columns, std::ptrdiff_t objects) {
+        const Reading reading = readingOf(operands.src[0]);
+        if constexpr (sources == 2) {
+            const Reading last = readingOf(operands.src[1]);
+            if (last == Reading::Same && columns <= SingleVector<T>::longest) {
+                const SingleVector<T> vector(operands.src[1], columns);
+                const Operands copied = {{operands.src[0], vector.addresses()}, operands.dst};
+                return chooseReading<Reading::Same>(reading, copied, rows, columns)(copied, rows, columns, objects);
+            }
+            if (last != reading) {
+                return groups<Reading::Apart, Reading::Apart, 0, false>(operands, rows, columns, objects);
+            }
+        }
+        chooseReading<Reading::Apart>(reading, operands, rows, columns)(operands, rows, columns, objects);
+    }
+
+    // Last: Same where the last source is a single object, else anything.
+    template <Reading last>
+    static Groups chooseReading(Reading reading, const Operands &operands, int rows, int columns) {
+        switch (reading) {
+        case Reading::Rows:
+            return isDense(operands, rows, columns, last == Reading::Same)
+                       ? chooseLength<Reading::Rows, lastOf(last, Reading::Rows), true>(columns)
+                       : chooseLength<Reading::Rows, lastOf(last, Reading::Rows), false>(columns);
+        case Reading::PointedRows:
+            return chooseLength<Reading::PointedRows, lastOf(last, Reading::PointedRows), false>(columns);
+        case Reading::Objects:
+            return groups<Reading::Objects, lastOf(last, Reading::Objects), 0, false>;
+        default:
+            return groups<Reading::Apart, lastOf(last, Reading::Apart), 0, false>;
+        }
+    }
+
+    static constexpr Reading lastOf(Reading last, Reading first) {
+        return last == Reading::Same ? last : first;
+    }
+
+    // Vectors one behind the other, of a length with a kernel of its own.
+    static bool isDense(const Operands &operands, int rows, int columns, bool lastIsSame) {
+        bool dense = rows == 1 && columns >= 3 && columns <= longestUnrolled;
+        for (std::size_t source = 0; source < sources - lastIsSame; ++source) {
+            dense &= operands.src[source].step[0] == columns * static_cast<std::ptrdiff_t>(sizeof(T));
+        }
+        return dense;
+    }
+
+    template <Reading first, Reading last, bool dense>
+    static Groups chooseLength(int columns) {
+        switch (columns) {
+        case 1:
+            return groups<first, last, 1, false>;
+        case 2:
+            return groups<first, last, 2, false>;
+        case 3:
+            return groups<first, last, 3, dense>;
+        case 4:
+            return groups<first, last, 4, dense>;
+        case 5:
+            return groups < first, last, dense ? 5 : 0, dense > ;
+        case 6:
+            return groups < first, last, dense ? 6 : 0, dense > ;
+        case 7:
+            return groups < first, last, dense ? 7 : 0, dense > ;
+        case 8:
+            return groups < first, last, dense ? 8 : 0, dense > ;
+        case 9:
+            return groups < first, last, dense ? 9 : 0, dense > ;
+        default:
+            return groups<first, last, 0, false>;
+        }
+    }
+
+    static constexpr int longestUnrolled = 9; // a matrix of order 3
+
+    // Length: of the rows where it is known beforehand, else 0. Dense: there is one row, and the objects touch.
+    template <Reading first, Reading last, int Length, bool dense>
+    static void groups(const Operands &shared, int rows, int columns, std::ptrdiff_t objects) {
+        const Operands operands = shared; // a copy that no store below can reach
+        std::ptrdiff_t object = 0;
+        if constexpr (Length == 3 && groupSize<T> == 8 && first == Reading::Rows) {
+            // Four elements of a row of three may be read unless it is the last row of an array.
+            for (; object + groupSize<T> < objects; object += groupSize<T>) {
+                store<first, last, Length, dense, true>(operands, object, rows, columns);
+            }
+        }
+        for (; object + groupSize<T> <= objects; object += groupSize<T>) {
+            store<first, last, Length, dense, false>(operands, object, rows, columns);
+        }
+    }
+
+    template <Reading first, Reading last, int Length, bool dense, bool readsOn>
+    [[gnu::always_inline]] static void store(const Operands &operands, std::ptrdiff_t object, int rows, int columns) {
+        constexpr std::ptrdiff_t step = dense ? Length * static_cast<std::ptrdiff_t>(sizeof(T)) : 0;
+        const int oneOrMore = dense || sources == 2 ? 1 : rows;
+        const int length = Length != 0 ? Length : columns;
+        const GroupReader<T, first, step> a(operands.src[0], object);
+        if constexpr (sources == 1) {
+            sumOfGroup<Length, readsOn>(operands.dst + object, oneOrMore, length, a);
+        } else {
+            const GroupReader<T, last, last == Reading::Same ? 0 : step> b(operands.src[1], object);
+            sumOfGroup<Length, readsOn>(operands.dst + object, oneOrMore, length, a, b);
+        }
+    }
+
+    template <int Length, bool readsOn, class... Reader>
+    [[gnu::always_inline]] static void sumOfGroup(T *dst, std::ptrdiff_t rows, std::ptrdiff_t n,
+                                                  const Reader &...reader) {
+        Group<T> sum = Group<T>::splat(0);
+        for (std::ptrdiff_t row = 0; row < rows; ++row) {
+            std::ptrdiff_t column = 0;
+#pragma GCC unroll 2
+            for (; column + 4 <= n; column += 4) {
+                add<0, 4>(sum, reader.template read<4>(row, column)...);
+            }
+            // The elements left, where the length says so together with some of those before them.
+            const auto left = n - column;
+            if (left == 0) {
+                continue;
+            }
+            if constexpr (Length > 4) {
+                add<4 - Length % 4, 4>(sum, reader.template read<4>(row, Length - 4)...);
+            } else if (left == 1) {
+                add<0, 1>(sum, reader.template read<1>(row, column)...);
+            } else if (left == 2) {
+                add<0, 2>(sum, reader.template read<2>(row, column)...);
+            } else {
+                add<0, 3>(sum, reader.template read<3, readsOn>(row, column)...);
+            }
+        }
+        Finish()(sum).store(dst);
+    }
+
+    template <int from, int to, class... Columns>
+    [[gnu::always_inline]] static void add(Group<T> &sum, const Columns &...columns) {
+#pragma GCC unroll 4
+        for (int i = from; i < to; ++i) {
+            sum = sum + product(columns[i]...);
+        }
+    }
+};
+
+// All objects of a call. Out of line: one for each type and sum, not one for each member of a family.
+template <class T, class Finish, std::size_t sources>
+[[gnu::noinline]] LxpStatus sumProducts(bool parallel, bool isSplit, int count, int rows, int columns,
+                                        const SumOperands<T, sources> &operands) {
+    return overObjects(parallel, count, [&](int first, int objects) {
+        using Sums = lxpm::Sums<T, Finish, sources>;
+        (isSplit ? Sums::split : Sums::ascending)(operands.from(first), rows, columns, objects);
+        return lxpStatusOk;
+    });
+}
+
+} // namespace lxpm

@@ -1,0 +1,129 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "products/trace.h"
+
+#include "products/readers.h"
+#include "runtime/parallel.h"
+#include "runtime/rows.h"
+#include "runtime/work.h"
+
+namespace lxpm {
+
+namespace {
+
+constexpr Row<InOrder> orders[] = {
+    {allCodes,
+     Layouts::All,
+     Types::Both,
+     {Check::Pointers, Check::Count, Check::Sizes, Check::Strides, Check::Offsets}},
+};
+
+// When an array is serial.
+constexpr Threshold threshold = serialUpTo(3600);
+
+// A matrix's diagonal as a vector.
+template <class T>
+Addresses<const T> diagonalOf(Addresses<const T> matrix) {
+    matrix.step[2] += matrix.step[1];
+    matrix.pointerStep[2] += matrix.pointerStep[1];
+    return matrix;
+}
+
+// Where the elements of a diagonal stand apart, a lane costs as much to fill as the sum that it would save.
+//
+// Order: of the matrices where it is known beforehand, else 0.
+template <int Order, class T>
+void tracesOneByOne(const Addresses<const T> &shared, T *dst, int anyOrder, int objects) {
+    const Addresses<const T> diagonal = shared; // a copy that no store below can reach
+    const int order = Order != 0 ? Order : anyOrder;
+    if (diagonal.pointers == nullptr) {
+        const T *first = diagonal.at(0, 0, 0);
+        for (int object = 0; object < objects; ++object) {
+            T sum = 0;
+            const T *element = first;
+#pragma GCC unroll 6
+            for (int i = 0; i < order; ++i) {
+                sum += *element;
+                element = shifted(element, diagonal.step[2]);
+            }
+            dst[object] = sum;
+            first = shifted(first, diagonal.step[0]);
+        }
+        return;
+    }
+    for (int object = 0; object < objects; ++object) {
+        T sum = 0;
+        for (int i = 0; i < order; ++i) {
+            sum += *diagonal.at(object, 0, i);
+        }
+        dst[object] = sum;
+    }
+}
+
+// Where the same element of successive objects touches: one object in each lane. Returns how many objects there were.
+template <class T>
+std::ptrdiff_t tracesInLanes(const Addresses<const T> &diagonal, T *dst, int order, int objects) {
+    std::ptrdiff_t object = 0;
+    for (; object + groupSize<T> <= objects; object += groupSize<T>) {
+        const GroupReader<T, Reading::Objects> reader(diagonal, object);
+        Group<T> sum = Group<T>::splat(0);
+        for (int i = 0; i < order; ++i) {
+            sum = sum + reader.template read<1>(0, i)[0];
+        }
+        sum.store(dst + object);
+    }
+    return object;
+}
+
+template <class T>
+void traces(Addresses<const T> diagonal, T *dst, int order, int objects) {
+    if (readingOf(diagonal) == Reading::Objects) {
+        const std::ptrdiff_t done = tracesInLanes(diagonal, dst, order, objects);
+        diagonal = diagonal.from(done);
+        dst += done;
+        objects -= static_cast<int>(done);
+    }
+    switch (order) {
+    case 3:
+        return tracesOneByOne<3>(diagonal, dst, order, objects);
+    case 4:
+        return tracesOneByOne<4>(diagonal, dst, order, objects);
+    case 5:
+        return tracesOneByOne<5>(diagonal, dst, order, objects);
+    case 6:
+        return tracesOneByOne<6>(diagonal, dst, order, objects);
+    default:
+        return tracesOneByOne<0>(diagonal, dst, order, objects);
+    }
+}
+
+// All objects of a call.
+template <class T>
+[[gnu::noinline]] LxpStatus traceObjects(bool parallel, int count, int order, const Addresses<const T> &source,
+                                         T *dst) {
+    return overObjects(parallel, count, [&](int first, int objects) {
+        traces(diagonalOf(source.from(first)), dst + first, order, objects);
+        return lxpStatusOk;
+    });
+}
+
+} // namespace
+
+template <Code operands, class T, Layout memory>
+LxpStatus TraceMember<operands, T, memory>::run(const Arguments &arguments) {
+    if (const LxpStatus status = firstFailure<rowOf<TraceMember, orders>>(arguments); status != lxpStatusOk) {
+        return status;
+    }
+    const auto &[source, size, results, number] = arguments.parts;
+    const int order = size.width();
+    const int count = number.value;
+
+    const bool parallel = isArray && threshold.isParallel(Work(order) * count);
+    return traceObjects<T>(parallel, count, order, source.addresses(order, order), results.first);
+}
+
+} // namespace lxpm
+
+#define EXPORT_LIST "products/trace.list.h"
+#include "runtime/instantiate.h"

@@ -1,0 +1,267 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Transposition of the matrices of a call. Matrices whose rows touch in both operands go through registers: a block of
+// the source, as many rows as a register has lanes and four columns, leaves it as four rows of the destination. Blocks
+// at the far edges overlap their neighbours instead of ending early, which writes some elements twice; so a destination
+// whose rows overlap is left to the loops that write each element once, in the order of its rows.
+
+#include "products/readers.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+namespace lxpm {
+
+template <class T>
+class Transposition {
+public:
+    static void run(std::ptrdiff_t objects, std::ptrdiff_t height, std::ptrdiff_t width,
+                    const Addresses<const T> &source, const Addresses<T> &destination) {
+        const Matrices matrices = {objects, height, width, source, destination};
+        choose(matrices)(matrices);
+    }
+
+private:
+    // The sizes are those of the source.
+    struct Matrices {
+        std::ptrdiff_t objects;
+        std::ptrdiff_t height;
+        std::ptrdiff_t width;
+        Addresses<const T> src;
+        Addresses<T> dst;
+    };
+    using Kernel = void (*)(const Matrices &);
+
+    // One matrix of each operand, whose rows touch.
+    struct Pair {
+        const T *src;
+        std::ptrdiff_t srcStep;
+        T *dst;
+        std::ptrdiff_t dstStep;
+
+        const T *from(std::ptrdiff_t row, std::ptrdiff_t column) const { return shifted(src, row * srcStep) + column; }
+        T *to(std::ptrdiff_t row, std::ptrdiff_t column) const { return shifted(dst, row * dstStep) + column; }
+    };
+
+    static constexpr std::ptrdiff_t size = sizeof(T);
+    static constexpr std::ptrdiff_t side = 4;            // of a small block
+    static constexpr std::ptrdiff_t rows = groupSize<T>; // of a block; its columns are four
+    static constexpr std::ptrdiff_t line = 64 / size;    // elements of a cache line
+
+    static Kernel choose(const Matrices &m) {
+        if (m.objects > 1 && objectsTouch(m.src) && objectsTouch(m.dst)) {
+            return objectsByRuns;
+        }
+        const bool byBytes = m.src.pointerStep[2] == 0 && m.dst.pointerStep[2] == 0;
+        if (!byBytes || m.dst.step[2] != size || m.dst.step[1] < m.height * size) {
+            return oneByOne;
+        }
+        if (m.src.step[2] == size) {
+            return chooseOrder(m);
+        }
+        return m.src.step[1] == size ? rowsByRuns : oneByOne;
+    }
+
+    static Kernel chooseOrder(const Matrices &m) {
+        if (m.height < side || m.width < side) {
+            const bool isDense = m.src.step[1] == 3 * size && m.dst.step[1] == 3 * size;
+            return m.height == 3 && m.width == 3 ? (isDense ? byOrder<3, true> : byOrder<3, false>) : oneByOne;
+        }
+        switch (m.height == m.width ? m.height : 0) {
+        case 4:
+            return byOrder<4, false>;
+        case 5:
+            return byOrder<5, false>;
+        case 6:
+            return byOrder<6, false>;
+        case 7:
+            return byOrder<7, false>;
+        case 8:
+            return byOrder<8, false>;
+        default:
+            return m.height < rows ? bySmallBlocks : byBlocks;
+        }
+    }
+
+    template <class Element>
+    static bool objectsTouch(const Addresses<Element> &operand) {
+        return operand.step[0] == size && operand.pointerStep[0] == 0;
+    }
+
+    template <class Function>
+    [[gnu::always_inline]] static void forEachPair(const Matrices &m, const Function &function) {
+        for (std::ptrdiff_t object = 0; object < m.objects; ++object) {
+            function(Pair{m.src.at(object, 0, 0), m.src.step[1], m.dst.at(object, 0, 0), m.dst.step[1]});
+        }
+    }
+
+    // In registers.
+
+    // A small block of the source, its first element at (row, column); only its columns from `first` on are written.
+    template <int first = 0>
+    [[gnu::always_inline]] static void smallBlock(const Pair &pair, std::ptrdiff_t row, std::ptrdiff_t column) {
+        std::array<Lanes<T, 4>, 4> block;
+#pragma GCC unroll 4
+        for (int i = 0; i < 4; ++i) {
+            block[i] = Lanes<T, 4>::load(pair.from(row + i, column));
+        }
+        transpose(block);
+#pragma GCC unroll 4
+        for (int i = first; i < 4; ++i) {
+            block[i].store(pair.to(column + i, row));
+        }
+    }
+
+    [[gnu::always_inline]] static void block(const Pair &pair, std::ptrdiff_t row, std::ptrdiff_t column) {
+        std::array<const T *, rows> from;
+#pragma GCC unroll 8
+        for (int i = 0; i < rows; ++i) {
+            from[i] = pair.from(row + i, column);
+        }
+        const GroupColumns<T> columns = columnsOf<4, true>(from);
+#pragma GCC unroll 4
+        for (int i = 0; i < 4; ++i) {
+            columns[i].store(pair.to(column + i, row));
+        }
+    }
+
+    // Calls at(0), at(step), ... and at last at(n - step).
+    template <class At>
+    [[gnu::always_inline]] static void forEachStep(std::ptrdiff_t n, std::ptrdiff_t step, const At &at) {
+        std::ptrdiff_t i = 0;
+        for (; i + step < n; i += step) {
+            at(i);
+        }
+        at(n - step);
+    }
+
+    // Square matrices of a small order.
+    template <int Order, bool isDense>
+    static void byOrder(const Matrices &shared) {
+        const Matrices matrices = shared; // a copy that no store below can reach
+        forEachPair(
+            matrices, [](const Pair &pair) __attribute__((always_inline)) {
+                if constexpr (Order == 3 && isDense) {
+                    denseOrder3(pair.src, pair.dst);
+                } else if constexpr (Order == 3) {
+                    order3(pair);
+                } else if constexpr (Order >= rows && Order % rows == 0) {
+#pragma GCC unroll 2
+                    for (int row = 0; row < Order; row += rows) {
+#pragma GCC unroll 2
+                        for (int column = 0; column < Order; column += 4) {
+                            block(pair, row, column);
+                        }
+                    }
+                } else {
+                    smallBlock(pair, 0, 0);
+                    if constexpr (Order > side) {
+                        smallBlock(pair, Order - side, 0);
+                        smallBlock<2 * side - Order>(pair, 0, Order - side);
+                        smallBlock<2 * side - Order>(pair, Order - side, Order - side);
+                    }
+                }
+            });
+    }
+
+    // 0 1 2 3 | 4 5 6 7 | 8 becomes 0 3 6 1 | 4 7 2 5 | 8: elements 1 and 3 of the two registers change places, and the
+    // registers exchange element 2.
+    [[gnu::always_inline]] static void denseOrder3(const T *src, T *dst) {
+        const auto first = Lanes<T, 4>::load(src);
+        const auto second = Lanes<T, 4>::load(src + 4);
+        const T last = src[8];
+        withElement2Of(second, withElements1And3Exchanged(first)).store(dst);
+        withElement2Of(first, withElements1And3Exchanged(second)).store(dst + 4);
+        dst[8] = last;
+    }
+
+    [[gnu::always_inline]] static void order3(const Pair &pair) {
+        std::array<Lanes<T, 4>, 4> block = {loadFirst<3>(pair.from(0, 0)), loadFirst<3>(pair.from(1, 0)),
+                                            loadFirst<3>(pair.from(2, 0))};
+        transpose(block);
+#pragma GCC unroll 3
+        for (int i = 0; i < 3; ++i) {
+            storeFirst<3>(pair.to(i, 0), block[i]);
+        }
+    }
+
+    // Fewer rows than a block has.
+    static void bySmallBlocks(const Matrices &shared) {
+        const Matrices m = shared;
+        forEachPair(
+            m, [&](const Pair &pair) __attribute__((always_inline)) {
+                forEachStep(
+                    m.height, side, [&](std::ptrdiff_t row) __attribute__((always_inline)) {
+                        forEachStep(
+                            m.width, side, [&](std::ptrdiff_t column) __attribute__((always_inline)) {
+                                smallBlock(pair, row, column);
+                            });
+                    });
+            });
+    }
+
+    // A strip of columns as wide as a cache line at a time, so that each line of the source is needed once. The rows
+    // of large matrices are too far apart for the processor to see what comes next.
+    static void byBlocks(const Matrices &shared) {
+        const Matrices m = shared;
+        forEachPair(
+            m, [&](const Pair &pair) __attribute__((always_inline)) {
+                for (std::ptrdiff_t strip = 0; strip < m.width; strip += line) {
+                    const std::ptrdiff_t first = std::min(strip, m.width - side);
+                    const std::ptrdiff_t columns = std::min(line, m.width - first);
+                    forEachStep(
+                        m.height, rows, [&](std::ptrdiff_t row) __attribute__((always_inline)) {
+                            forEachStep(
+                                columns, side, [&](std::ptrdiff_t column) __attribute__((always_inline)) {
+                                    block(pair, row, first + column);
+                                });
+                        });
+                }
+            });
+    }
+
+    // Elsewhere.
+
+    // The elements of the source touch down the columns, so a row of the destination is a copy.
+    static void rowsByRuns(const Matrices &m) {
+        forEachPair(m, [&](const Pair &pair) {
+            for (std::ptrdiff_t row = 0; row < m.width; ++row) {
+                std::memcpy(pair.to(row, 0), shifted(pair.src, row * m.src.step[2]),
+                            static_cast<std::size_t>(m.height * size));
+            }
+        });
+    }
+
+    // The same element of successive objects touches.
+    static void objectsByRuns(const Matrices &m) {
+        for (std::ptrdiff_t row = 0; row < m.width; ++row) {
+            for (std::ptrdiff_t column = 0; column < m.height; ++column) {
+                std::memcpy(m.dst.at(0, row, column), m.src.at(0, column, row),
+                            static_cast<std::size_t>(m.objects * size));
+            }
+        }
+    }
+
+    static void oneByOne(const Matrices &shared) {
+        const Matrices m = shared;
+        for (std::ptrdiff_t object = 0; object < m.objects; ++object) {
+            for (std::ptrdiff_t row = 0; row < m.width; ++row) {
+                for (std::ptrdiff_t column = 0; column < m.height; ++column) {
+                    *m.dst.at(object, row, column) = *m.src.at(object, column, row);
+                }
+            }
+        }
+    }
+};
+
+// All objects of a call. Out of line: one for each type, not one for each member of the family.
+template <class T>
+[[gnu::noinline]] void transposeObjects(int objects, int height, int width, const Addresses<const T> &source,
+                                        const Addresses<T> &destination) {
+    Transposition<T>::run(objects, height, width, source, destination);
+}
+
+} // namespace lxpm

@@ -1,0 +1,302 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Products of square matrices of small orders, and of rows with such matrices: the rows of the second operand stand in
+// registers, and a row of the result is the sum of these rows, each times an element of the first operand.
+//
+// The elements of rows touch, in the second operand, the addend and the destination; the first operand moves by bytes.
+
+#include "products/product.h"
+#include "runtime/lanes.h"
+#include "runtime/one_object.h"
+
+#include <array>
+#include <cstddef>
+#include <type_traits>
+
+namespace lxpm {
+
+// N numbers in as few registers as they take. The lanes behind the last one start as 0.
+template <class T, int N>
+class ElementRow {
+    static constexpr int lanes = N <= 4 ? 4 : fullLanes<T>;
+    static constexpr int registers = (N + lanes - 1) / lanes;
+    static constexpr int last = N - (registers - 1) * lanes;
+
+public:
+    ElementRow() = default;
+    explicit ElementRow(Lanes<T, lanes> only) requires(registers == 1) : part{only} {}
+
+    static ElementRow zero() { return {}; }
+
+    // One by one: element(i) is the i-th one.
+    template <class F>
+    [[gnu::always_inline]] static ElementRow of(const F &element) {
+        ElementRow row;
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) {
+            row.part[i / lanes].vector[i % lanes] = element(i);
+        }
+        return row;
+    }
+
+    static ElementRow load(const T *from) {
+        ElementRow row;
+        for (int r = 0; r + 1 < registers; ++r) {
+            row.part[r] = Lanes<T, lanes>::load(from + r * lanes);
+        }
+        const T *rest = from + (registers - 1) * lanes;
+        if constexpr (lanes == 4) {
+            row.part[registers - 1] = loadFirst<last>(rest);
+        } else {
+            row.part[registers - 1] = joined(loadFirst<4>(rest), loadFirst<last - 4>(rest + 4));
+        }
+        return row;
+    }
+
+    void store(T *to) const {
+        for (int r = 0; r + 1 < registers; ++r) {
+            part[r].store(to + r * lanes);
+        }
+        T *rest = to + (registers - 1) * lanes;
+        if constexpr (lanes == 4) {
+            storeFirst<last>(rest, part[registers - 1]);
+        } else {
+            storeFirst<4>(rest, lowHalf(part[registers - 1]));
+            storeFirst<last - 4>(rest + 4, highHalf(part[registers - 1]));
+        }
+    }
+
+    // All lanes, those behind the last one too.
+    void storeWhole(T *to) const {
+        for (int r = 0; r < registers; ++r) {
+            part[r].store(to + r * lanes);
+        }
+    }
+
+    // Calls f(i, element) one by one.
+    template <class F>
+    [[gnu::always_inline]] void forEach(const F &f) const {
+#pragma GCC unroll 8
+        for (int i = 0; i < N; ++i) {
+            f(i, part[i / lanes].vector[i % lanes]);
+        }
+    }
+
+    // Adds factor times another row.
+    [[gnu::always_inline]] void add(T factor, const ElementRow &row) {
+        const auto f = Lanes<T, lanes>::splat(factor);
+        for (int r = 0; r < registers; ++r) {
+            part[r] = part[r] + f * row.part[r];
+        }
+    }
+
+    [[gnu::always_inline]] void add(const ElementRow &row) {
+        for (int r = 0; r < registers; ++r) {
+            part[r] = part[r] + row.part[r];
+        }
+    }
+
+private:
+    std::array<Lanes<T, lanes>, registers> part = {};
+};
+
+// A row of an object as a register, and back: at once where its elements touch, else one by one.
+
+template <int N, class Object>
+[[gnu::always_inline]] inline auto loadRow(const Object &from, std::ptrdiff_t i) {
+    using Row = ElementRow<std::remove_const_t<typename Object::Element>, N>;
+    if constexpr (MovesByBytes<Object>) {
+        if (from.rowsTouch()) {
+            return Row::load(from.at(i, 0));
+        }
+    }
+    return Row::of([&](int j) { return *from.at(i, j); });
+}
+
+template <class Row, class Object>
+[[gnu::always_inline]] inline void storeRow(const Row &row, const Object &to, std::ptrdiff_t i) {
+    if constexpr (MovesByBytes<Object>) {
+        if (to.rowsTouch()) {
+            return row.store(to.at(i, 0));
+        }
+    }
+    row.forEach([&](int j, auto element) { *to.at(i, j) = element; });
+}
+
+// How far a kernel may count on what it is given.
+struct Given {
+    bool singleB;   // the second operand is the same for all objects
+    bool denseRows; // the destination's rows touch, so that a row may be stored over the beginning of the next one
+    bool addend;
+};
+
+// The rows of one result. Addend: none or one.
+template <int Rows, bool denseRows, class Row, std::size_t Order, class A, class D, class... Addend>
+[[gnu::always_inline]] inline void multiplyRows(const A &a, const std::array<Row, Order> &b, const D &dst,
+                                                const Addend &...addend) {
+#pragma GCC unroll 8
+    for (int i = 0; i < Rows; ++i) {
+        Row sum = Row::zero();
+#pragma GCC unroll 8
+        for (std::size_t k = 0; k < Order; ++k) {
+            sum.add(*a.at(i, static_cast<std::ptrdiff_t>(k)), b[k]);
+        }
+        (sum.add(loadRow<static_cast<int>(Order)>(addend, i)), ...);
+        if constexpr (denseRows) {
+            if (i + 1 < Rows) {
+                sum.storeWhole(dst.at(i, 0));
+            } else {
+                sum.store(dst.at(i, 0));
+            }
+        } else {
+            storeRow(sum, dst, i);
+        }
+    }
+}
+
+template <class T, int Order, int Rows, Given given>
+void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
+    const MatrixProduct<T> p = shared; // a copy that no store below can reach
+    const std::ptrdiff_t aRow = p.a.step[1];
+    const std::ptrdiff_t aElement = p.a.step[2];
+    const std::ptrdiff_t bRow = p.b.step[1];
+    const std::ptrdiff_t dstRow = p.dst.step[1];
+
+    using Row = ElementRow<T, Order>;
+    std::array<Row, Order> b;
+    const auto loadB = [&](std::ptrdiff_t object) __attribute__((always_inline)) {
+        const T *first = p.b.at(object, 0, 0);
+#pragma GCC unroll 8
+        for (int k = 0; k < Order; ++k) {
+            b[k] = Row::load(shifted(first, k * bRow));
+        }
+    };
+    if constexpr (given.singleB) {
+        loadB(0);
+    }
+    for (std::ptrdiff_t object = 0; object < count; ++object) {
+        if constexpr (!given.singleB) {
+            loadB(object);
+        }
+        const StridedObject<const T> a = {p.a.at(object, 0, 0), aRow, aElement};
+        const TouchingObject<T> dst({p.dst.at(object, 0, 0), dstRow, sizeof(T)});
+        if constexpr (given.addend) {
+            multiplyRows<Rows, given.denseRows>(
+                a, b, dst, TouchingObject<const T>({p.addend->at(object, 0, 0), p.addend->step[1], sizeof(T)}));
+        } else {
+            multiplyRows<Rows, given.denseRows>(a, b, dst);
+        }
+    }
+}
+
+// Two rows of the result in a register.
+
+// The first operand's rows touch inside.
+template <bool singleB>
+void multiplyOrder4(const MatrixProduct<float> &shared, std::ptrdiff_t count) {
+    const MatrixProduct<float> p = shared;
+    const std::ptrdiff_t aRow = p.a.step[1];
+    const std::ptrdiff_t bRow = p.b.step[1];
+    const std::ptrdiff_t dstRow = p.dst.step[1];
+    Lanes<float, 8> b[4];
+    const auto loadB = [&](std::ptrdiff_t object) __attribute__((always_inline)) {
+        const float *first = p.b.at(object, 0, 0);
+#pragma GCC unroll 4
+        for (int k = 0; k < 4; ++k) {
+            b[k] = bothHalves(shifted(first, k * bRow));
+        }
+    };
+    if constexpr (singleB) {
+        loadB(0);
+    }
+    for (std::ptrdiff_t object = 0; object < count; ++object) {
+        if constexpr (!singleB) {
+            loadB(object);
+        }
+        const float *a = p.a.at(object, 0, 0);
+        float *dst = p.dst.at(object, 0, 0);
+#pragma GCC unroll 2
+        for (int i = 0; i < 4; i += 2) {
+            const Lanes<float, 8> rows = joined(Lanes<float, 4>::load(a), Lanes<float, 4>::load(shifted(a, aRow)));
+            Lanes<float, 8> sum = {};
+            sum = sum + chosenInHalves<0, 0, 0, 0>(rows) * b[0];
+            sum = sum + chosenInHalves<1, 1, 1, 1>(rows) * b[1];
+            sum = sum + chosenInHalves<2, 2, 2, 2>(rows) * b[2];
+            sum = sum + chosenInHalves<3, 3, 3, 3>(rows) * b[3];
+            lowHalf(sum).store(dst);
+            highHalf(sum).store(shifted(dst, dstRow));
+            a = shifted(a, 2 * aRow);
+            dst = shifted(dst, 2 * dstRow);
+        }
+    }
+}
+
+// A 3x3 matrix without gaps as three registers of four, without a look behind its end: the last row comes with the
+// element in front of it.
+struct Order3 {
+    static constexpr int row1 = 3;
+    static constexpr int row2 = 5;
+
+    // The rows of two matrices, side by side.
+    [[gnu::always_inline]] static std::array<Lanes<float, 8>, 3> load(const float *first, const float *second) {
+        const auto pair = [=](int at) __attribute__((always_inline)) {
+            return joined(Lanes<float, 4>::load(first + at), Lanes<float, 4>::load(second + at));
+        };
+        return {pair(0), pair(row1), pair(row2)};
+    }
+};
+
+// The rows of two objects side by side. The first operand and, unless it is single, the second have no gaps; an object
+// that is left over is the caller's.
+template <bool singleB, bool denseRows>
+void multiplyPairsOfOrder3(const MatrixProduct<float> &shared, std::ptrdiff_t count) {
+    const MatrixProduct<float> p = shared;
+    const std::ptrdiff_t dstRow = p.dst.step[1];
+    std::array<Lanes<float, 8>, 3> b;
+    if constexpr (singleB) {
+        for (int k = 0; k < 3; ++k) {
+            const Lanes<float, 4> row = loadFirst<3>(p.b.at(0, k, 0));
+            b[k] = chosenInHalves<0, 1, 2, 2>(joined(row, row));
+        }
+    }
+    const auto store = [&](float *dst, Lanes<float, 4> row, bool isLast) __attribute__((always_inline)) {
+        if (denseRows && !isLast) {
+            row.store(dst);
+        } else {
+            storeFirst<3>(dst, row);
+        }
+    };
+    for (std::ptrdiff_t object = 0; object + 2 <= count; object += 2) {
+        if constexpr (!singleB) {
+            // The fourth lane does what the third does: it can raise no flag of its own.
+            b = Order3::load(p.b.at(object, 0, 0), p.b.at(object + 1, 0, 0));
+            b[0] = chosenInHalves<0, 1, 2, 2>(b[0]);
+            b[1] = chosenInHalves<0, 1, 2, 2>(b[1]);
+            b[2] = chosenInHalves<1, 2, 3, 3>(b[2]);
+        }
+        const std::array<Lanes<float, 8>, 3> a = Order3::load(p.a.at(object, 0, 0), p.a.at(object + 1, 0, 0));
+        float *first = p.dst.at(object, 0, 0);
+        float *second = p.dst.at(object + 1, 0, 0);
+#pragma GCC unroll 2
+        for (int i = 0; i < 2; ++i) {
+            Lanes<float, 8> sum = {};
+            sum = sum + chosenInHalves<0, 0, 0, 0>(a[i]) * b[0];
+            sum = sum + chosenInHalves<1, 1, 1, 1>(a[i]) * b[1];
+            sum = sum + chosenInHalves<2, 2, 2, 2>(a[i]) * b[2];
+            store(first, lowHalf(sum), false);
+            store(second, highHalf(sum), false);
+            first = shifted(first, dstRow);
+            second = shifted(second, dstRow);
+        }
+        Lanes<float, 8> sum = {};
+        sum = sum + chosenInHalves<1, 1, 1, 1>(a[2]) * b[0];
+        sum = sum + chosenInHalves<2, 2, 2, 2>(a[2]) * b[1];
+        sum = sum + chosenInHalves<3, 3, 3, 3>(a[2]) * b[2];
+        store(first, lowHalf(sum), true);
+        store(second, highHalf(sum), true);
+    }
+}
+
+} // namespace lxpm

@@ -1,0 +1,316 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Groups: as many objects of an array as a register has lanes, one object in each lane. Their elements are brought from
+// memory into lanes and back, row by row. Rows whose elements touch are turned in registers, four elements of each
+// object at a time; where the same element of successive objects touches, a register is loaded as it stands; anything
+// else is picked one by one.
+//
+// Rows may be permuted, each object's by its own indices. Of a lower triangle, what stands above the diagonal is
+// neither read through pointers nor written.
+
+#include "runtime/addresses.h"
+#include "runtime/lanes.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <type_traits>
+#include <utility>
+
+namespace lxpm {
+
+// The order up to which a matrix is worth copying to the stack: in lanes, or where its rows do not touch.
+inline constexpr int largestCopied = 16;
+
+// The elements up to which an operand of a group of objects fits the stack and the first cache.
+inline constexpr int largestGroup = largestCopied * largestCopied;
+
+// Whether all of a matrix takes part, or what stands above its diagonal is none of the operation's business.
+enum class Part { Whole, LowerTriangle };
+
+constexpr int lengthOf(Part part, int row, int columns) {
+    return part == Part::LowerTriangle && row + 1 < columns ? row + 1 : columns;
+}
+
+namespace detail {
+
+enum class Access { RowsTouch, ObjectsTouch, OneByOne };
+
+// An operand, its element pointers replaced by steps in bytes where they are as regular as those.
+template <class Element>
+struct GroupOperand {
+    GroupOperand(const Addresses<Element> &operand, int height, int width);
+
+    Addresses<Element> addresses;
+    Access access;
+    int rows;
+    int columns;
+    bool isDense; // the elements of an object stand in one row
+    bool isPlain; // and a pointer leads to all objects or to each
+};
+
+extern template struct GroupOperand<const float>;
+extern template struct GroupOperand<const double>;
+extern template struct GroupOperand<float>;
+extern template struct GroupOperand<double>;
+
+template <class Element>
+using Pointers = std::array<Element *, fullLanes<std::remove_const_t<Element>>>;
+
+template <class T>
+[[gnu::always_inline]] inline void turn(std::array<Group<T>, 4> &rows) {
+    if constexpr (groupSize<T> == 8) {
+        transposeHalves(rows);
+    } else {
+        transpose(rows);
+    }
+}
+
+// K elements of each object.
+template <int K, class T>
+[[gnu::always_inline]] inline void loadSome(const Pointers<const T> &from, int first, Group<T> *to) {
+    std::array<Group<T>, 4> rows;
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) {
+        if constexpr (groupSize<T> == 8 && K == 4) {
+            rows[i] = loadHalves(from[i] + first, from[i + 4] + first);
+        } else if constexpr (groupSize<T> == 8) {
+            rows[i] = joined(loadFirst<K>(from[i] + first), loadFirst<K>(from[i + 4] + first));
+        } else {
+            rows[i] = loadFirst<K>(from[i] + first);
+        }
+    }
+    turn<T>(rows);
+#pragma GCC unroll 4
+    for (int i = 0; i < K; ++i) {
+        to[first + i] = rows[i];
+    }
+}
+
+template <int K, class T>
+[[gnu::always_inline]] inline void storeSome(const Group<T> *from, int first, const Pointers<T> &to) {
+    std::array<Group<T>, 4> rows;
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) {
+        rows[i] = from[first + std::min(i, K - 1)];
+    }
+    turn<T>(rows);
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) {
+        if constexpr (groupSize<T> == 8) {
+            storeFirst<K>(to[i] + first, lowHalf(rows[i]));
+            storeFirst<K>(to[i + 4] + first, highHalf(rows[i]));
+        } else {
+            storeFirst<K>(to[i] + first, rows[i]);
+        }
+    }
+}
+
+// Objects without gaps, of sizes known beforehand.
+
+template <class Element>
+[[gnu::always_inline]] inline Pointers<Element> pointersTo(const GroupOperand<Element> &operand,
+                                                           std::ptrdiff_t object) {
+    const Addresses<Element> &a = operand.addresses;
+    Pointers<Element> pointers;
+    if (a.pointers != nullptr) {
+#pragma GCC unroll 8
+        for (int lane = 0; lane < static_cast<int>(pointers.size()); ++lane) {
+            pointers[lane] = shifted(a.pointers[object + lane], a.offset);
+        }
+        return pointers;
+    }
+    const std::ptrdiff_t step = a.step[0];
+    Element *const first = shifted(a.base, a.offset + object * step);
+#pragma GCC unroll 8
+    for (int lane = 0; lane < static_cast<int>(pointers.size()); ++lane) {
+        pointers[lane] = shifted(first, lane * step);
+    }
+    return pointers;
+}
+
+// A row of each object, by fours; the last of more than four together with some that are done again.
+template <int Length, class T>
+[[gnu::always_inline]] inline void loadLength(const Pointers<const T> &from, Group<T> *to) {
+    if constexpr (Length < 4) {
+        loadSome<Length, T>(from, 0, to);
+    } else {
+#pragma GCC unroll 16
+        for (int j = 0; j < Length; j += 4) {
+            loadSome<4, T>(from, std::min(j, Length - 4), to);
+        }
+    }
+}
+
+template <int Length, class T>
+[[gnu::always_inline]] inline void storeLength(const Group<T> *from, const Pointers<T> &to) {
+    if constexpr (Length < 4) {
+        storeSome<Length, T>(from, 0, to);
+    } else {
+#pragma GCC unroll 16
+        for (int j = 0; j < Length; j += 4) {
+            storeSome<4, T>(from, std::min(j, Length - 4), to);
+        }
+    }
+}
+
+template <int Rows, int Columns, class Element>
+[[gnu::always_inline]] inline Pointers<Element> rowsOfObjects(const Pointers<Element> &objects, const int *rowOf,
+                                                              int row) {
+    Pointers<Element> pointers;
+#pragma GCC unroll 8
+    for (int lane = 0; lane < static_cast<int>(pointers.size()); ++lane) {
+        pointers[lane] = objects[lane] + std::ptrdiff_t(rowOf[lane * Rows + row]) * Columns;
+    }
+    return pointers;
+}
+
+} // namespace detail
+
+// Rows, Columns: the sizes where they are known beforehand, else 0.
+
+template <class T>
+class GroupSource {
+public:
+    // Objects of `rows` rows of `columns` elements.
+    GroupSource(const Addresses<const T> &operand, int rows, int columns) : from(operand, rows, columns) {}
+
+    // The objects from `object` on, row by row. RowOf: row i of lane l is row rowOf[l * rows + i] of its object.
+    template <int Rows, int Columns>
+    [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to) const {
+        if constexpr (Rows == 0) {
+            loadAny(object, to);
+        } else if (from.isPlain) {
+            detail::loadLength<Rows * Columns, T>(detail::pointersTo(from, object), to);
+        } else {
+            through<Rows * Columns>(to, [&](Group<T> *elements) { loadAny(object, elements); });
+        }
+    }
+
+    template <int Rows, int Columns>
+    [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
+        if constexpr (Rows == 0) {
+            loadAny(object, to, rowOf);
+        } else if (from.isPlain) {
+            const auto objects = detail::pointersTo(from, object);
+#pragma GCC unroll 8
+            for (int i = 0; i < Rows; ++i) {
+                detail::loadLength<Columns, T>(detail::rowsOfObjects<Rows, Columns>(objects, rowOf, i),
+                                               to + i * Columns);
+            }
+        } else {
+            through<Rows * Columns>(to, [&](Group<T> *elements) { loadAny(object, elements, rowOf); });
+        }
+    }
+
+    // What stands above the diagonal of a known order comes along where it is memory of the object.
+    template <int Order>
+    [[gnu::always_inline]] void loadLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
+        if constexpr (Order == 0) {
+            loadAnyLowerTriangle(object, to);
+        } else if (from.isPlain) {
+            detail::loadLength<Order * Order, T>(detail::pointersTo(from, object), to);
+        } else {
+            through<Order * Order>(to, [&](Group<T> *elements) { loadAnyLowerTriangle(object, elements); });
+        }
+    }
+
+private:
+    // By way of memory, so that the elements themselves can stay in registers.
+    template <int Elements, class Load>
+    [[gnu::always_inline]] static void through(Group<T> *to, const Load &loadElements) {
+        Group<T> elements[Elements] = {};
+        loadElements(elements);
+        std::copy_n(elements, Elements, to);
+    }
+
+    void loadAny(std::ptrdiff_t object, Group<T> *to) const;
+    void loadAny(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const;
+    void loadAnyLowerTriangle(std::ptrdiff_t object, Group<T> *to) const;
+
+    detail::GroupOperand<const T> from;
+};
+
+template <class T>
+class GroupDestination {
+public:
+    GroupDestination(const Addresses<T> &operand, int rows, int columns) : to(operand, rows, columns) {}
+
+    template <int Rows, int Columns>
+    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from) const {
+        if constexpr (Rows == 0) {
+            storeAny(object, from);
+        } else if (to.isPlain) {
+            detail::storeLength<Rows * Columns, T>(from, detail::pointersTo(to, object));
+        } else {
+            const auto elements = copied<Rows * Columns>(from);
+            storeAny(object, elements.data());
+        }
+    }
+
+    template <int Rows, int Columns>
+    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
+        if constexpr (Rows == 0) {
+            storeAny(object, from, rowOf);
+        } else if (to.isPlain) {
+            const auto objects = detail::pointersTo(to, object);
+#pragma GCC unroll 8
+            for (int i = 0; i < Rows; ++i) {
+                detail::storeLength<Columns, T>(from + i * Columns,
+                                                detail::rowsOfObjects<Rows, Columns>(objects, rowOf, i));
+            }
+        } else {
+            const auto elements = copied<Rows * Columns>(from);
+            storeAny(object, elements.data(), rowOf);
+        }
+    }
+
+    template <int Order>
+    [[gnu::always_inline]] void storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
+        if constexpr (Order == 0) {
+            storeAnyLowerTriangle(object, from);
+        } else if (to.isPlain) {
+            storeRows(from, detail::pointersTo(to, object), std::make_integer_sequence<int, Order>());
+        } else {
+            const auto elements = copied<Order * Order>(from);
+            storeAnyLowerTriangle(object, elements.data());
+        }
+    }
+
+private:
+    template <int... row>
+    [[gnu::always_inline]] static void storeRows(const Group<T> *from, const detail::Pointers<T> &objects,
+                                                 std::integer_sequence<int, row...>) {
+        constexpr int order = sizeof...(row);
+        const auto rowOfObjects = [&](int i) __attribute__((always_inline)) {
+            detail::Pointers<T> pointers = objects;
+            for (T *&pointer : pointers) {
+                pointer += i * order;
+            }
+            return pointers;
+        };
+        (detail::storeLength<row + 1, T>(from + row * order, rowOfObjects(row)), ...);
+    }
+
+    template <int Elements>
+    [[gnu::always_inline]] static std::array<Group<T>, Elements> copied(const Group<T> *from) {
+        std::array<Group<T>, Elements> elements;
+        std::copy_n(from, Elements, elements.begin());
+        return elements;
+    }
+
+    void storeAny(std::ptrdiff_t object, const Group<T> *from) const;
+    void storeAny(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const;
+    void storeAnyLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const;
+
+    detail::GroupOperand<T> to;
+};
+
+extern template class GroupSource<float>;
+extern template class GroupSource<double>;
+extern template class GroupDestination<float>;
+extern template class GroupDestination<double>;
+
+} // namespace lxpm

@@ -1,0 +1,215 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// Gaussian elimination with partial pivoting, P * A = L * U, in place and in pivot order: row k of the factors is the
+// row that was chosen for column k, with the multipliers of L in front of its diagonal.
+//
+// The pivot is the candidate of the largest magnitude, the first of equals in pivot order; NaN is never larger. In
+// lanes rows are exchanged under masks, with one object only their numbers are; the order of candidates is the same,
+// and so is every operation on an element: the products are subtracted in ascending order of columns.
+
+#include "runtime/groups.h"
+#include "runtime/lanes.h"
+#include "runtime/numbers.h"
+#include "solvers/matrices.h"
+
+#include <limits>
+#include <utility>
+
+namespace lxpm {
+
+// When a column is singular, by the magnitude of its pivot, and how its multipliers come about.
+struct SmallOrderRules { // orders 3 to 6
+    template <class V>
+    static MaskOf<V> isSingular(V largest) {
+        return isLess(largest, constant<V>(2 * double(std::numeric_limits<ElementOf<V>>::min())));
+    }
+    static constexpr bool usesReciprocal(int column) { return column == 0; }
+};
+
+struct AnyOrderRules {
+    template <class V>
+    static MaskOf<V> isSingular(V largest) {
+        return isLessEqual(largest, constant<V>(double(std::numeric_limits<ElementOf<V>>::epsilon())));
+    }
+    static constexpr bool usesReciprocal(int) { return true; }
+};
+
+// Nothing but zero is singular; a quotient of at most 1 cannot overflow as a reciprocal can.
+struct DeterminantRules {
+    template <class V>
+    static MaskOf<V> isSingular(V largest) {
+        return isEqual(largest, constant<V>(0));
+    }
+    static constexpr bool usesReciprocal(int) { return false; }
+};
+
+// The rules of a decomposition of known or (0) any other order.
+template <int Order>
+using RulesOf = std::conditional_t<Order == 0, AnyOrderRules, SmallOrderRules>;
+
+template <class V, class Position>
+struct Pivot {
+    V magnitude;
+    Position position;
+};
+
+// One object: rows stay where they are, index[i] is the number of the i-th one in pivot order.
+template <class T, class Matrix>
+class IndexedRows {
+public:
+    using Number = T;
+
+    IndexedRows(const Matrix &matrix, int *rowNumbers, int order) : a(matrix), index(rowNumbers) {
+        for (int i = 0; i < order; ++i) {
+            index[i] = i;
+        }
+    }
+
+    T &operator()(int i, int j) const { return a(index[i], j); }
+
+    template <int Order>
+    Pivot<T, int> findPivot(int k, int n) const {
+        Pivot<T, int> pivot = {magnitude((*this)(k, k)), k};
+        overRange<Order>(
+            k + 1, n, [&](int i) __attribute__((always_inline)) {
+                const T candidate = magnitude((*this)(i, k));
+                const bool isLarger = pivot.magnitude < candidate;
+                pivot.magnitude = isLarger ? candidate : pivot.magnitude;
+                pivot.position = isLarger ? i : pivot.position;
+            });
+        return pivot;
+    }
+
+    static bool isAt(int position, int k) { return position == k; }
+
+    template <int>
+    void bringUp(int k, int, int position) {
+        std::swap(index[k], index[position]);
+    }
+
+    // Row i minus a multiple of row k, from column `from` on.
+    template <int Order>
+    void subtract(int i, int k, T factor, int from, int n) const {
+        if constexpr (Order == 0 && std::is_same_v<Matrix, TouchingMatrix<T>>) {
+            T *row = &(*this)(i, 0);
+            const T *other = &(*this)(k, 0);
+            const Group<T> factors = Group<T>::splat(factor);
+            int j = from;
+            for (; j + groupSize<T> <= n; j += groupSize<T>) {
+                (Group<T>::load(row + j) - factors * Group<T>::load(other + j)).store(row + j);
+            }
+            for (; j < n; ++j) {
+                row[j] = row[j] - factor * other[j];
+            }
+        } else {
+            overRange<Order>(
+                from, n, [&](int j) __attribute__((always_inline)) {
+                    (*this)(i, j) = (*this)(i, j) - factor * (*this)(k, j);
+                });
+        }
+    }
+
+private:
+    Matrix a;
+    int *index;
+};
+
+// A group of objects in lanes: rows are exchanged, and their numbers with them.
+template <class T>
+class LaneRows {
+public:
+    using Number = Group<T>;
+
+    LaneRows(Number *elements, Number *rowNumbers, int order) : a(elements), index(rowNumbers), n(order) {
+        for (int i = 0; i < order; ++i) {
+            index[i] = constant<Number>(i);
+        }
+    }
+
+    [[gnu::always_inline]] Number &operator()(int i, int j) const { return a[i * n + j]; }
+
+    template <int Order>
+    [[gnu::always_inline]] Pivot<Number, Number> findPivot(int k, int) const {
+        Pivot<Number, Number> pivot = {magnitude((*this)(k, k)), constant<Number>(k)};
+        overRange<Order>(
+            k + 1, n, [&](int i) __attribute__((always_inline)) {
+                const Number candidate = magnitude((*this)(i, k));
+                const auto isLarger = isLess(pivot.magnitude, candidate);
+                pivot.magnitude = choose(isLarger, candidate, pivot.magnitude);
+                pivot.position = choose(isLarger, constant<Number>(i), pivot.position);
+            });
+        return pivot;
+    }
+
+    static MaskOf<Number> isAt(Number position, int k) { return isEqual(position, constant<Number>(k)); }
+
+    template <int Order>
+    [[gnu::always_inline]] void bringUp(int k, int, Number position) {
+        MaskOf<Number> isChosen[Order != 0 ? Order : largestCopied];
+        overRange<Order>(
+            k + 1, n, [&](int i) __attribute__((always_inline)) { isChosen[i] = isAt(position, i); });
+        const auto exchangeColumn = [&](Number * column, int step) __attribute__((always_inline)) {
+            const Number old = column[k * step];
+            Number chosen = old;
+            overRange<Order>(
+                k + 1, n, [&](int i) __attribute__((always_inline)) {
+                    Number &element = column[i * step];
+                    chosen = choose(isChosen[i], element, chosen);
+                    element = choose(isChosen[i], old, element);
+                });
+            column[k * step] = chosen;
+        };
+        overRange<Order>(
+            0, n, [&](int j) __attribute__((always_inline)) { exchangeColumn(a + j, n); });
+        exchangeColumn(index, 1);
+    }
+
+    template <int Order>
+    [[gnu::always_inline]] void subtract(int i, int k, Number factor, int from, int) const {
+        overRange<Order>(
+            from,
+            n, [&](int j) __attribute__((always_inline)) { (*this)(i, j) = (*this)(i, j) - factor * (*this)(k, j); });
+    }
+
+private:
+    Number *a;
+    Number *index;
+    int n;
+};
+
+// Returns the number of columns in front of the first singular one, of any lane; the order if there is none. A singular
+// column is left as the columns before it made it.
+template <int Order, class Rules, class Rows>
+[[gnu::always_inline]] inline int eliminate(Rows &a, int order) {
+    using V = typename Rows::Number;
+    const int n = Order != 0 ? Order : order;
+    int done = n;
+    overRange<Order>(
+        0, n, [&](int k) __attribute__((always_inline)) {
+            if (done < k) {
+                return;
+            }
+            const auto pivot = a.template findPivot<Order>(k, n);
+            if (any(Rules::isSingular(pivot.magnitude))) {
+                done = k;
+                return;
+            }
+            if (k + 1 == n) {
+                return;
+            }
+            a.template bringUp<Order>(k, n, pivot.position);
+            const V divisor = a(k, k);
+            const V reciprocal = constant<V>(1) / divisor;
+            overRange<Order>(
+                k + 1, n, [&](int i) __attribute__((always_inline)) {
+                    const V factor = Rules::usesReciprocal(k) ? a(i, k) * reciprocal : a(i, k) / divisor;
+                    a(i, k) = factor;
+                    a.template subtract<Order>(i, k, factor, k + 1, n);
+                });
+        });
+    return done;
+}
+
+} // namespace lxpm

@@ -1,0 +1,195 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// How the members of Invert run. For the sources that instantiate them, one for each type.
+
+#include "runtime/parallel.h"
+#include "runtime/rows.h"
+#include "runtime/work.h"
+#include "solvers/by_groups.h"
+#include "solvers/elimination.h"
+#include "solvers/invert.h"
+#include "solvers/lu_substitution.h"
+#include "solvers/scratch.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <type_traits>
+
+namespace lxpm {
+
+namespace detail::invert {
+
+inline constexpr InOrder orderOfChecks = {Check::Pointers, Check::Count, Check::Sizes, Check::Strides, Check::Offsets};
+
+// When an array is serial.
+inline constexpr Threshold threshold = serialUpTo(2000);
+
+template <class T>
+struct Inversion {
+    int order;
+    Addresses<const T> source;
+    Addresses<T> destination;
+};
+
+// A group's matrices in lanes, one column of the identity after the other.
+template <class T, int Order>
+bool invertGroup(const GroupSource<T> &source, const GroupDestination<T> &destination, int order,
+                 std::ptrdiff_t object) {
+    const int n = Order != 0 ? Order : order;
+    Group<T> a[Order != 0 ? Order * Order : largestGroup];
+    Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
+    source.template load<Order, Order>(object, a);
+    LaneRows<T> rows(a, rowNumbers, n);
+    if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
+        return false;
+    }
+    Group<T> inverse[Order != 0 ? Order * Order : largestGroup];
+    overRange<Order>(
+        0, n, [&](int column) __attribute__((always_inline)) {
+            Group<T> x[Order != 0 ? Order : largestCopied];
+            overRange<Order>(
+                0, n, [&](int i) __attribute__((always_inline)) {
+                    x[i] = choose(isEqual(rowNumbers[i], constant<Group<T>>(column)), constant<Group<T>>(1),
+                                  constant<Group<T>>(0));
+                });
+            substitute<Order, Group<T>>(rows, x, n);
+            overRange<Order>(
+                0, n, [&](int i) __attribute__((always_inline)) { inverse[i * n + column] = x[i]; });
+        });
+    destination.template store<Order, Order>(object, inverse);
+    return true;
+}
+
+// What one matrix needs: its factors, its row numbers, and columns of the inverse, as many as a register holds.
+template <class T>
+class Workspace {
+public:
+    explicit Workspace(Group<T> *memory, int order) : n(order), first(memory) {}
+
+    // Registers that a matrix takes.
+    static constexpr std::size_t sizeFor(int order) {
+        const auto size = static_cast<std::size_t>(order);
+        return size + registersOf(size * size * sizeof(T)) + registersOf(size * sizeof(int));
+    }
+
+    Group<T> *columns() const { return first; }
+    T *matrix() const { return reinterpret_cast<T *>(first + n); }
+    int *rowNumbers() const {
+        return reinterpret_cast<int *>(first + n + registersOf(std::size_t(n) * std::size_t(n) * sizeof(T)));
+    }
+
+private:
+    static constexpr std::size_t registersOf(std::size_t bytes) {
+        return (bytes + sizeof(Group<T>) - 1) / sizeof(Group<T>);
+    }
+
+    int n;
+    Group<T> *first;
+};
+
+template <class T>
+inline void storeFirstLanes(Group<T> lanes, int count, T *to) {
+    if (count == groupSize<T>) {
+        lanes.store(to);
+        return;
+    }
+    T elements[groupSize<T>];
+    lanes.store(elements);
+    std::copy_n(elements, count, to);
+}
+
+// One matrix, columns of the identity in lanes.
+template <class T, int Order>
+LxpStatus invertOne(const Addresses<const T> &source, const Addresses<T> &destination, int order,
+                    const Workspace<T> &workspace) {
+    const int n = Order != 0 ? Order : order;
+    T *const a = workspace.matrix();
+    Group<T> *const x = workspace.columns();
+    copyMatrix<Part::Whole>(source, plainMatrix(a, n), n, n);
+    const TouchingMatrix<T> matrix = {a, n};
+    IndexedRows<T, TouchingMatrix<T>> rows(matrix, workspace.rowNumbers(), n);
+    if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
+        return lxpStatusSingularErr;
+    }
+    const bool rowsTouch = destination.rowsTouch();
+    for (int column = 0; column < n; column += groupSize<T>) {
+        const int columns = std::min(n - column, groupSize<T>);
+        for (int i = 0; i < n; ++i) {
+            T unit[groupSize<T>] = {};
+            if (const int lane = workspace.rowNumbers()[i] - column; lane >= 0 && lane < columns) {
+                unit[lane] = 1;
+            }
+            x[i] = Group<T>::load(unit);
+        }
+        substitute<Order, Group<T>>(rows, x, n);
+        for (int i = 0; i < n; ++i) {
+            if (rowsTouch) {
+                storeFirstLanes(x[i], columns, destination.at(0, i, column));
+                continue;
+            }
+            T elements[groupSize<T>];
+            x[i].store(elements);
+            for (int lane = 0; lane < columns; ++lane) {
+                *destination.at(0, i, column + lane) = elements[lane];
+            }
+        }
+    }
+    return lxpStatusOk;
+}
+
+template <class T, int Order>
+LxpStatus invertObjects(const Inversion<T> &call, const Workspace<T> &workspace, int first, int count) {
+    const int n = Order != 0 ? Order : call.order;
+    const auto makeGroups = [&] {
+        return [&, source = GroupSource<T>(call.source, n, n),
+                destination = GroupDestination<T>(call.destination, n, n)](std::ptrdiff_t object) {
+            return invertGroup<T, Order>(source, destination, n, object);
+        };
+    };
+    const auto one = [&](std::ptrdiff_t object) {
+        return invertOne<T, Order>(call.source.from(object), call.destination.from(object), n, workspace);
+    };
+    return byGroups<T>(n <= largestCopied, first, count, makeGroups, one);
+}
+
+template <class T>
+LxpStatus invertObjects(const Inversion<T> &call, Group<T> *memory, int first, int count) {
+    const Workspace<T> workspace(memory, call.order);
+    return withOrder(call.order, [&](auto order) { return invertObjects<T, order>(call, workspace, first, count); });
+}
+
+template <class T>
+LxpStatus invertAll(bool parallel, int count, const Inversion<T> &call) {
+    if (call.order <= largestCopied) {
+        return overObjects(parallel, count, [&](int first, int objects) {
+            Group<T> small[Workspace<T>::sizeFor(largestCopied)];
+            return invertObjects<T>(call, small, first, objects);
+        });
+    }
+    const OwnScratch<Group<T>> memory(Workspace<T>::sizeFor(call.order));
+    if (memory.isMissing()) {
+        return lxpStatusSizeErr;
+    }
+    return overShares(parallel, count, memory.bytes(), [&](const Share &share) {
+        return invertObjects<T>(call, share.scratchOr(memory.get()), share.first, share.count);
+    });
+}
+
+} // namespace detail::invert
+
+template <Code operands, class T, Layout memory>
+LxpStatus InvertMember<operands, T, memory>::run(const Arguments &arguments) {
+    if (const LxpStatus status = firstFailure<detail::invert::orderOfChecks>(arguments); status != lxpStatusOk) {
+        return status;
+    }
+    const auto &[source, destination, size, number] = arguments.parts;
+    const int n = size.width();
+    const int count = number.value;
+
+    const bool parallel = isArray && detail::invert::threshold.isParallel(Work(n) * n * count);
+    return detail::invert::invertAll<T>(parallel, count, {n, source.addresses(n, n), destination.addresses(n, n)});
+}
+
+} // namespace lxpm

@@ -1,0 +1,8 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+#include "solvers/lu_kernels.h"
+
+#define ONLY_32f
+#define EXPORT_LIST "solvers/lu.list.h"
+#include "runtime/instantiate.h"

@@ -1,0 +1,302 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// How the members of LUDecomp and LUBackSubst run. For the sources that instantiate them, one for each type.
+
+#include "runtime/parallel.h"
+#include "runtime/rows.h"
+#include "runtime/work.h"
+#include "solvers/by_groups.h"
+#include "solvers/elimination.h"
+#include "solvers/lu.h"
+#include "solvers/lu_substitution.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace lxpm {
+
+namespace detail::lu {
+
+inline constexpr InOrder orderOfChecks = {Check::Pointers, Check::Count, Check::Sizes, Check::Strides, Check::Offsets};
+
+// When an array is serial.
+inline constexpr Row<Threshold> thresholds[] = {
+    {"ma", Layouts::All, Types::Both, serialUpTo(1000)},
+    {"mva", Layouts::All, Types::Both, serialUpTo(700)},
+    {"mava", Layouts::All, Types::Both, serialUpTo(1200)},
+};
+
+// Row numbers of a group, as they are stored with its objects.
+template <int Order, class T>
+[[gnu::always_inline]] inline void storeIndex(const Group<T> *index, int n, int *to) {
+    T numbers[groupSize<T>];
+    overRange<Order>(
+        0, n, [&](int k) __attribute__((always_inline)) {
+            index[k].store(numbers);
+            for (std::ptrdiff_t lane = 0; lane < groupSize<T>; ++lane) {
+                to[lane * n + k] = static_cast<int>(numbers[lane]);
+            }
+        });
+}
+
+template <class T>
+struct Decomposition {
+    int order;
+    Addresses<const T> source;
+    int *index;
+    Addresses<T> destination;
+};
+
+template <class T, int Order>
+bool decomposeGroup(const GroupSource<T> &source, const GroupDestination<T> &destination, int order, int *index,
+                    std::ptrdiff_t object) {
+    const int n = Order != 0 ? Order : order;
+    Group<T> a[Order != 0 ? Order * Order : largestGroup];
+    Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
+    source.template load<Order, Order>(object, a);
+    LaneRows<T> rows(a, rowNumbers, n);
+    if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
+        return false;
+    }
+    storeIndex<Order, T>(rowNumbers, n, index);
+    destination.template store<Order, Order>(object, a, index);
+    return true;
+}
+
+// Orders with rules of their own work on a copy: what is written of an object that fails are the rows finished before.
+template <class T, int Order>
+LxpStatus decomposeOne(const Addresses<const T> &source, int *index, const Addresses<T> &destination) {
+    T a[Order * Order];
+    int rowNumbers[Order];
+    copyMatrix<Part::Whole>(source, plainMatrix(a, Order), Order, Order);
+    const TouchingMatrix<T> matrix = {a, Order};
+    IndexedRows<T, TouchingMatrix<T>> rows(matrix, rowNumbers, Order);
+    const int done = eliminate<Order, SmallOrderRules>(rows, Order);
+    for (int k = 0; k < done; ++k) {
+        index[k] = rowNumbers[k];
+        copyMatrix<Part::Whole>(plainMatrix<const T>(&rows(k, 0), Order), destination.from(0, rowNumbers[k]), 1, Order);
+    }
+    return done < Order ? lxpStatusSingularErr : lxpStatusOk;
+}
+
+// Others work in the destination.
+template <class T, class Matrix>
+LxpStatus eliminateAnyOrder(const Matrix &matrix, int *index, int n) {
+    IndexedRows<T, Matrix> rows(matrix, index, n);
+    return eliminate<0, AnyOrderRules>(rows, n) < n ? lxpStatusSingularErr : lxpStatusOk;
+}
+
+template <class T>
+LxpStatus decomposeOne(const Addresses<const T> &source, int *index, const Addresses<T> &destination, int n) {
+    if (!destination.rowsTouch() && n <= largestCopied) {
+        T a[largestGroup];
+        copyMatrix<Part::Whole>(source, plainMatrix(a, n), n, n);
+        const LxpStatus status = eliminateAnyOrder<T>(TouchingMatrix<T>{a, n}, index, n);
+        copyMatrix<Part::Whole>(plainMatrix<const T>(a, n), destination, n, n);
+        return status;
+    }
+    copyMatrix<Part::Whole>(source, destination, n, n);
+    return destination.rowsTouch() ? eliminateAnyOrder<T>(touchingMatrix(destination), index, n)
+                                   : eliminateAnyOrder<T>(AnyMatrix<T>{destination}, index, n);
+}
+
+template <class T, int Order>
+LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
+    const int n = Order != 0 ? Order : call.order;
+    const auto makeGroups = [&] {
+        return [&, source = GroupSource<T>(call.source, n, n),
+                destination = GroupDestination<T>(call.destination, n, n)](std::ptrdiff_t object) {
+            return decomposeGroup<T, Order>(source, destination, n, call.index + object * n, object);
+        };
+    };
+    const auto one = [&](std::ptrdiff_t object) {
+        const auto from = call.source.from(object);
+        const auto to = call.destination.from(object);
+        if constexpr (Order != 0) {
+            return decomposeOne<T, Order>(from, call.index + object * n, to);
+        } else {
+            return decomposeOne<T>(from, call.index + object * n, to, n);
+        }
+    };
+    return byGroups<T>(n <= largestCopied, first, count, makeGroups, one);
+}
+
+template <class T>
+LxpStatus decompose(bool parallel, int count, const Decomposition<T> &call) {
+    return overObjects(parallel, count, [&](int first, int objects) {
+        return withOrder(call.order, [&](auto order) { return decomposeObjects<T, order>(call, first, objects); });
+    });
+}
+
+template <class T>
+struct Substitution {
+    int order;
+    Addresses<const T> factors;
+    const int *index;
+    Addresses<const T> right;
+    Addresses<T> solution;
+};
+
+// Factors and right-hand sides in lanes.
+template <class T, int Order>
+void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right, const GroupDestination<T> &solution,
+                     int order, const int *index, std::ptrdiff_t object) {
+    const int n = Order != 0 ? Order : order;
+    Group<T> a[Order != 0 ? Order * Order : largestGroup];
+    Group<T> x[Order != 0 ? Order : largestCopied];
+    factors.template load<Order, Order>(object, a, index);
+    right.template load<Order, 1>(object, x, index);
+    const TouchingMatrix<Group<T>> matrix = {a, n};
+    substitute<Order, Group<T>>(matrix, x, n);
+    solution.template store<Order != 0, Order>(object, x);
+}
+
+// Right-hand sides in lanes; the factors, in pivot order, are those of all of them.
+template <class T, int Order, class Factors>
+void substituteInto(const Factors &factors, const GroupSource<T> &right, const GroupDestination<T> &solution, int order,
+                    const int *index, std::ptrdiff_t object) {
+    const int n = Order != 0 ? Order : order;
+    Group<T> b[Order != 0 ? Order : largestGroup];
+    Group<T> x[Order != 0 ? Order : largestGroup];
+    right.template load<Order != 0, Order>(object, b);
+    overRange<Order>(
+        0, n, [&](int i) __attribute__((always_inline)) { x[i] = b[index[i]]; });
+    substitute<Order, Group<T>>(factors, x, n);
+    solution.template store<Order != 0, Order>(object, x);
+}
+
+template <class T, int Order>
+void substituteOne(const Substitution<T> &call, const int *index, std::ptrdiff_t object) {
+    const int n = Order != 0 ? Order : call.order;
+    const auto right = call.right.from(object);
+    const auto solution = call.solution.from(object);
+    const auto factors = call.factors.from(object);
+    const auto solve = [&](const auto &a, auto &&x) __attribute__((always_inline)) {
+        overRange<Order>(
+            0, n, [&](int i) __attribute__((always_inline)) { x[i] = *right.at(0, 0, index[i]); });
+        const auto inPivotOrder = [&](int i, int j) __attribute__((always_inline)) {
+            return a(index[i], j);
+        };
+        substitute<Order, T>(inPivotOrder, x, n);
+    };
+    if (n > largestGroup) {
+        withLargeMatrix(factors, [&](const auto &a) { solve(a, AnyVector<T>{solution}); });
+        return;
+    }
+    T copy[Order != 0 ? Order * Order : largestGroup];
+    T x[Order != 0 ? Order : largestGroup];
+    withMatrix<Part::Whole>(
+        factors, n, n, copy, [&](const auto &a) __attribute__((always_inline)) { solve(a, x); });
+    for (int i = 0; i < n; ++i) {
+        *solution.at(0, 0, i) = x[i];
+    }
+}
+
+// One matrix, many right-hand sides.
+template <class T, int Order>
+LxpStatus substituteMany(const Substitution<T> &call, int first, int count) {
+    const int n = Order != 0 ? Order : call.order;
+    const auto oneByOne = [&](std::ptrdiff_t object) {
+        substituteOne<T, Order>(call, call.index, object);
+        return lxpStatusOk;
+    };
+    if (count < groupSize<T> || n > largestGroup) {
+        return byGroups<T>(
+            false, first, count, [] { return [](std::ptrdiff_t) { return false; }; }, oneByOne);
+    }
+    const GroupSource<T> right(call.right, 1, n);
+    const GroupDestination<T> solution(call.solution, 1, n);
+    const auto run = [&](const auto &factors) {
+        const auto makeGroups = [&] {
+            return [&](std::ptrdiff_t object) {
+                substituteInto<T, Order>(factors, right, solution, n, call.index, object);
+                return true;
+            };
+        };
+        return byGroups<T>(true, first, count, makeGroups, oneByOne);
+    };
+    if (n > largestCopied) {
+        return run([&](int i, int j) { return *call.factors.at(0, call.index[i], j); });
+    }
+    T a[Order != 0 ? Order * Order : largestGroup];
+    for (int i = 0; i < n; ++i) {
+        for (int j = 0; j < n; ++j) {
+            a[i * n + j] = *call.factors.at(0, call.index[i], j);
+        }
+    }
+    return run(TouchingMatrix<T>{a, n});
+}
+
+// A matrix for each right-hand side.
+template <class T, int Order>
+LxpStatus substituteEach(const Substitution<T> &call, int first, int count) {
+    const int n = Order != 0 ? Order : call.order;
+    const auto makeGroups = [&] {
+        return [&, factors = GroupSource<T>(call.factors, n, n),
+                right = GroupSource<T>(call.right.transposed(), n, 1), // for its rows to be permuted
+                solution = GroupDestination<T>(call.solution, 1, n)](std::ptrdiff_t object) {
+            substituteGroup<T, Order>(factors, right, solution, n, call.index + object * n, object);
+            return true;
+        };
+    };
+    const auto one = [&](std::ptrdiff_t object) {
+        substituteOne<T, Order>(call, call.index + object * n, object);
+        return lxpStatusOk;
+    };
+    return byGroups<T>(n <= largestCopied, first, count, makeGroups, one);
+}
+
+template <class T, int Order>
+LxpStatus substituteObjects(const Substitution<T> &call, int first, int count) {
+    return call.factors.isSingle() ? substituteMany<T, Order>(call, first, count)
+                                   : substituteEach<T, Order>(call, first, count);
+}
+
+template <class T>
+LxpStatus substituteAll(bool parallel, int count, const Substitution<T> &call) {
+    return overObjects(parallel, count, [&](int first, int objects) {
+        return withOrder(call.order, [&](auto order) { return substituteObjects<T, order>(call, first, objects); });
+    });
+}
+
+} // namespace detail::lu
+
+template <Code operands, class T, Layout memory>
+LxpStatus LUDecompMember<operands, T, memory>::run(const Arguments &arguments) {
+    if (const LxpStatus status = firstFailure<detail::lu::orderOfChecks>(arguments); status != lxpStatusOk) {
+        return status;
+    }
+    const auto &[source, index, destination, size, number] = arguments.parts;
+    const int n = size.width();
+    const int count = number.value;
+
+    bool parallel = false;
+    if constexpr (isArray) {
+        parallel = rowOf<LUDecompMember, detail::lu::thresholds>.isParallel(Work(n) * n * count);
+    }
+    return detail::lu::decompose<T>(parallel, count,
+                                    {n, source.addresses(n, n), index.first, destination.addresses(n, n)});
+}
+
+template <Code operands, class T, Layout memory>
+LxpStatus LUBackSubstMember<operands, T, memory>::run(const Arguments &arguments) {
+    if (const LxpStatus status = firstFailure<detail::lu::orderOfChecks>(arguments); status != lxpStatusOk) {
+        return status;
+    }
+    const auto &[factors, index, right, destination, size, number] = arguments.parts;
+    const int n = size.width();
+    const int count = number.value;
+
+    bool parallel = false;
+    if constexpr (isArray) {
+        constexpr Kind matrix = operands[0];
+        const Work work = matrix.array ? (Work(n) + 2) * n * count : (Work(n) + Work(2) * count) * n;
+        parallel = rowOf<LUBackSubstMember, detail::lu::thresholds>.isParallel(work);
+    }
+    return detail::lu::substituteAll<T>(
+        parallel, count, {n, factors.addresses(n, n), index.first, right.addresses(1, n), destination.addresses(1, n)});
+}
+
+} // namespace lxpm

@@ -1,0 +1,388 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// How the members of QRDecomp and QRBackSubst run. For the sources that instantiate them, one for each type.
+
+#include "runtime/numbers.h"
+#include "runtime/parallel.h"
+#include "runtime/rows.h"
+#include "runtime/work.h"
+#include "solvers/by_groups.h"
+#include "solvers/matrices.h"
+#include "solvers/qr.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+#include <type_traits>
+
+namespace lxpm {
+
+namespace detail::qr {
+
+inline constexpr InOrder orderOfChecks = {Check::Pointers, Check::Count,   Check::Sizes,
+                                          Check::Strides,  Check::Offsets, Check::SizeMatch};
+
+// When an array is serial.
+inline constexpr Row<Threshold> thresholds[] = {
+    {allCodes, Layouts::S, Types::Both, serialUpTo(2800)},
+    {allCodes, Layouts::LP, Types::Both, serialUpTo(1800)},
+};
+
+// Rows and columns. A square matrix has nothing below the diagonal of its last column.
+struct Size {
+    int height;
+    int width;
+
+    constexpr int reflectors() const { return height > width ? width : width - 1; }
+    constexpr bool fits(int elements) const { return std::ptrdiff_t(height) * width <= elements; }
+};
+
+// Orders of square matrices with unrolled loops; 0 stands for all other sizes.
+template <int Order>
+constexpr Size sizeOf(Size size) {
+    return Order != 0 ? Size{Order, Order} : size;
+}
+
+// tau of the reflector below the diagonal of column k: -2 / (1 + sum of the squares of its tail).
+template <int Order, class V, class Matrix>
+[[gnu::always_inline]] inline V scaleOf(const Matrix &a, int k, int height) {
+    V squares = constant<V>(1);
+    overRange<Order>(
+        k + 1, height, [&](int i) __attribute__((always_inline)) {
+            const V v = number<V>(a(i, k));
+            squares = squares + v * v;
+        });
+    return constant<V>(-2) / squares;
+}
+
+// One number of a matrix, or as many of a row as a register holds.
+template <class Block, class V>
+[[gnu::always_inline]] inline Block blockAt(V &element) {
+    if constexpr (std::is_same_v<Block, V>) {
+        return element;
+    } else {
+        return Block::load(&element);
+    }
+}
+
+template <class Block, class V>
+[[gnu::always_inline]] inline void storeBlock(Block block, V &element) {
+    if constexpr (std::is_same_v<Block, V>) {
+        element = block;
+    } else {
+        block.store(&element);
+    }
+}
+
+// Householder reflections in place. Returns the number of columns in front of the first one that is too short, of any
+// lane; the number of reflectors if there is none.
+template <int Order, class V, class Matrix>
+[[gnu::always_inline]] inline int reflect(const Matrix &a, Size anySize) {
+    const Size size = sizeOf<Order>(anySize);
+    const int reflectors = size.reflectors();
+    int done = reflectors;
+    overRange<Order>(
+        0, reflectors, [&](int k) __attribute__((always_inline)) {
+            if (done < k) {
+                return;
+            }
+            V squares = constant<V>(0);
+            overRange<Order>(
+                k, size.height, [&](int i) __attribute__((always_inline)) { squares = squares + a(i, k) * a(i, k); });
+            if (any(isLess(magnitude(squares), constant<V>(double(std::numeric_limits<ElementOf<V>>::epsilon()))))) {
+                done = k;
+                return;
+            }
+            const V length = root(squares);
+            const V diagonal = a(k, k);
+            const V shift = choose(isLess(constant<V>(0), diagonal), length, negated(length));
+            const V factor = constant<V>(1) / (diagonal + shift);
+
+            // The reflector, its scale, and what it makes of its own column.
+            V tailSquares = constant<V>(1);
+            V product = constant<V>(0) + diagonal;
+            overRange<Order>(
+                k + 1, size.height, [&](int i) __attribute__((always_inline)) {
+                    const V element = a(i, k);
+                    const V v = element * factor;
+                    tailSquares = tailSquares + v * v;
+                    product = product + v * element;
+                    a(i, k) = v;
+                });
+            const V scale = constant<V>(-2) / tailSquares;
+            a(k, k) = diagonal + scale * product;
+
+            // The other columns, in any number at a time.
+            const auto reflectColumns = [&]<class Block>(int j, const Block &) __attribute__((always_inline)) {
+                Block sum = constant<Block>(0) + blockAt<Block>(a(k, j));
+                overRange<Order>(
+                    k + 1, size.height, [&](int i) __attribute__((always_inline)) {
+                        sum = sum + number<Block>(a(i, k)) * blockAt<Block>(a(i, j));
+                    });
+                sum = number<Block>(scale) * sum;
+                storeBlock(blockAt<Block>(a(k, j)) + sum, a(k, j));
+                overRange<Order>(
+                    k + 1, size.height, [&](int i) __attribute__((always_inline)) {
+                        storeBlock(blockAt<Block>(a(i, j)) + sum * number<Block>(a(i, k)), a(i, j));
+                    });
+            };
+            int next = k + 1;
+            if constexpr (Order == 0 && isSingle<V> && std::is_same_v<Matrix, TouchingMatrix<V>>) {
+                for (; next + groupSize<V> <= size.width; next += groupSize<V>) {
+                    reflectColumns(next, Group<V>());
+                }
+            }
+            overRange<Order>(
+                next, size.width, [&](int j) __attribute__((always_inline)) { reflectColumns(j, V()); });
+        });
+    return done;
+}
+
+template <class T>
+struct Decomposition {
+    Size size;
+    Addresses<const T> source;
+    Addresses<T> destination;
+};
+
+template <class T, int Order>
+bool decomposeGroup(const GroupSource<T> &source, const GroupDestination<T> &destination, Size size,
+                    std::ptrdiff_t object) {
+    Group<T> a[Order != 0 ? Order * Order : largestGroup];
+    source.template load<Order, Order>(object, a);
+    const TouchingMatrix<Group<T>> matrix = {a, sizeOf<Order>(size).width};
+    if (reflect<Order, Group<T>>(matrix, size) < size.reflectors()) {
+        return false;
+    }
+    destination.template store<Order, Order>(object, a);
+    return true;
+}
+
+template <class T, int Order>
+LxpStatus decomposeOne(const Addresses<const T> &source, const Addresses<T> &destination, Size size) {
+    const auto statusOf = [&](int done) { return done < size.reflectors() ? lxpStatusDivByZeroErr : lxpStatusOk; };
+    if (!destination.rowsTouch() && size.fits(largestGroup)) {
+        T a[Order != 0 ? Order * Order : largestGroup];
+        copyMatrix<Part::Whole>(source, plainMatrix(a, size.width), size.height, size.width);
+        const LxpStatus status = statusOf(reflect<Order, T>(TouchingMatrix<T>{a, size.width}, size));
+        copyMatrix<Part::Whole>(plainMatrix<const T>(a, size.width), destination, size.height, size.width);
+        return status;
+    }
+    copyMatrix<Part::Whole>(source, destination, size.height, size.width);
+    return statusOf(destination.rowsTouch() ? reflect<Order, T>(touchingMatrix(destination), size)
+                                            : reflect<Order, T>(AnyMatrix<T>{destination}, size));
+}
+
+// Calls the kernel of the size's order.
+template <class Kernel>
+LxpStatus withOrderOf(Size size, const Kernel &kernel) {
+    return withOrder(size.width == size.height ? size.width : 0, kernel);
+}
+
+template <class T, int Order>
+LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
+    const Size size = call.size;
+    const auto makeGroups = [&] {
+        return [&, source = GroupSource<T>(call.source, size.height, size.width),
+                destination = GroupDestination<T>(call.destination, size.height, size.width)](std::ptrdiff_t object) {
+            return decomposeGroup<T, Order>(source, destination, size, object);
+        };
+    };
+    const auto one = [&](std::ptrdiff_t object) {
+        return decomposeOne<T, Order>(call.source.from(object), call.destination.from(object), size);
+    };
+    return byGroups<T>(size.fits(largestGroup), first, count, makeGroups, one);
+}
+
+template <class T>
+LxpStatus decompose(bool parallel, int count, const Decomposition<T> &call) {
+    return overObjects(parallel, count, [&](int first, int objects) {
+        return withOrderOf(call.size, [&](auto order) { return decomposeObjects<T, order>(call, first, objects); });
+    });
+}
+
+// x, which holds b, becomes transposed(Q) * b, and its first elements the solution of R * x = that. ScaleOfColumn(k) is
+// tau of reflector k.
+template <int Order, class V, class Matrix, class Vector, class Scale>
+[[gnu::always_inline]] inline void substitute(const Matrix &a, Vector &x, Size anySize, const Scale &scaleOfColumn) {
+    const Size size = sizeOf<Order>(anySize);
+    overRange<Order>(
+        0, size.reflectors(), [&](int k) __attribute__((always_inline)) {
+            V product = x[k];
+            overRange<Order>(
+                k + 1, size.height, [&](int i) __attribute__((always_inline)) { product = product + a(i, k) * x[i]; });
+            product = number<V>(scaleOfColumn(k)) * product;
+            x[k] = x[k] + product;
+            overRange<Order>(
+                k + 1,
+                size.height, [&](int i) __attribute__((always_inline)) { x[i] = x[i] + product * number<V>(a(i, k)); });
+        });
+    overRangeDown<Order>(
+        0, size.width, [&](int i) __attribute__((always_inline)) {
+            V element = x[i];
+            overRange<Order>(
+                i + 1, size.width, [&](int j) __attribute__((always_inline)) { element = element - a(i, j) * x[j]; });
+            x[i] = element / number<V>(a(i, i));
+        });
+}
+
+template <class T>
+struct Substitution {
+    Size size;
+    Addresses<const T> factors;
+    T *buffer; // the caller's, of `height` elements
+    Addresses<const T> right;
+    Addresses<T> solution;
+};
+
+// Factors and right-hand sides in lanes.
+template <class T, int Order>
+void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right, const GroupDestination<T> &solution,
+                     Size size, std::ptrdiff_t object) {
+    Group<T> a[Order != 0 ? Order * Order : largestGroup];
+    Group<T> x[Order != 0 ? Order : largestGroup];
+    factors.template load<Order, Order>(object, a);
+    right.template load<Order != 0, Order>(object, x);
+    const TouchingMatrix<Group<T>> matrix = {a, sizeOf<Order>(size).width};
+    const auto scale = [&](int k) __attribute__((always_inline)) {
+        return scaleOf<Order, Group<T>>(matrix, k, sizeOf<Order>(size).height);
+    };
+    substitute<Order, Group<T>>(matrix, x, size, scale);
+    solution.template store<Order != 0, Order>(object, x);
+}
+
+// Right-hand sides in lanes, the same factors for all of them.
+template <class T, int Order, class Matrix>
+void substituteInto(const Matrix &factors, const T *scales, const GroupSource<T> &right,
+                    const GroupDestination<T> &solution, Size size, std::ptrdiff_t object) {
+    Group<T> x[Order != 0 ? Order : largestGroup];
+    right.template load<Order != 0, Order>(object, x);
+    const auto scale = [&](int k) __attribute__((always_inline)) {
+        return scales[k];
+    };
+    substitute<Order, Group<T>>(factors, x, size, scale);
+    solution.template store<Order != 0, Order>(object, x);
+}
+
+template <class T, int Order>
+void substituteOne(const Substitution<T> &call, T *x, std::ptrdiff_t object) {
+    const Size size = sizeOf<Order>(call.size);
+    const auto right = call.right.from(object);
+    const auto solution = call.solution.from(object);
+    for (int i = 0; i < size.height; ++i) {
+        x[i] = *right.at(0, 0, i);
+    }
+    T copy[Order != 0 ? Order * Order : largestGroup];
+    withMatrix<Part::Whole>(
+        call.factors.from(object), size.height, size.width, copy, [&](const auto &a) __attribute__((always_inline)) {
+            const auto scale = [&](int k) __attribute__((always_inline)) {
+                return scaleOf<Order, T>(a, k, size.height);
+            };
+            substitute<Order, T>(a, x, size, scale);
+        });
+    for (int i = 0; i < size.width; ++i) {
+        *solution.at(0, 0, i) = x[i];
+    }
+}
+
+template <class T, int Order>
+LxpStatus substituteObjects(const Substitution<T> &call, T *x, int first, int count) {
+    const Size size = sizeOf<Order>(call.size);
+    const GroupSource<T> right(call.right, 1, size.height);
+    const GroupDestination<T> solution(call.solution, 1, size.width);
+    const auto one = [&](std::ptrdiff_t object) {
+        substituteOne<T, Order>(call, x, object);
+        return lxpStatusOk;
+    };
+    if (!call.factors.isSingle() || count < groupSize<T>) {
+        const auto makeGroups = [&] {
+            return [&, factors = GroupSource<T>(call.factors, size.height, size.width)](std::ptrdiff_t object) {
+                substituteGroup<T, Order>(factors, right, solution, size, object);
+                return true;
+            };
+        };
+        return byGroups<T>(size.fits(largestGroup), first, count, makeGroups, one);
+    }
+    LxpStatus status = lxpStatusOk;
+    T copy[Order != 0 ? Order * Order : largestGroup];
+    withMatrix<Part::Whole>(call.factors, size.height, size.width, copy, [&](const auto &a) {
+        const bool fits = size.height <= largestGroup;
+        T scales[Order != 0 ? Order : largestGroup];
+        for (int k = 0; k < size.reflectors() && fits; ++k) {
+            scales[k] = scaleOf<Order, T>(a, k, size.height);
+        }
+        const auto makeGroups = [&] {
+            return [&](std::ptrdiff_t object) {
+                substituteInto<T, Order>(a, scales, right, solution, size, object);
+                return true;
+            };
+        };
+        status = byGroups<T>(fits, first, count, makeGroups, one);
+    });
+    return status;
+}
+
+template <class T>
+LxpStatus substituteAll(bool parallel, int count, const Substitution<T> &call) {
+    const auto run = [&](T *x, int first, int objects) {
+        return withOrderOf(call.size, [&](auto order) { return substituteObjects<T, order>(call, x, first, objects); });
+    };
+    if (call.size.height <= largestGroup) {
+        return overObjects(parallel, count, [&](int first, int objects) {
+            T x[largestGroup];
+            return run(x, first, objects);
+        });
+    }
+    return overShares(parallel, count, static_cast<std::size_t>(call.size.height) * sizeof(T),
+                      [&](const Share &share) { return run(share.scratchOr(call.buffer), share.first, share.count); });
+}
+
+} // namespace detail::qr
+
+template <Code operands, class T, Layout memory>
+LxpStatus QRDecompMember<operands, T, memory>::run(const Arguments &arguments) {
+    if (const LxpStatus status = firstFailure<detail::qr::orderOfChecks>(arguments); status != lxpStatusOk) {
+        return status;
+    }
+    // The reflectors are made where they are stored, so the buffer is not needed.
+    const auto &[source, buffer, destination, size, number] = arguments.parts;
+    const int width = size.width();
+    const int height = size.height();
+    const int count = number.value;
+
+    bool parallel = false;
+    if constexpr (isArray) {
+        parallel = rowOf<QRDecompMember, detail::qr::thresholds>.isParallel(Work(2) * width * height * count);
+    }
+    return detail::qr::decompose<T>(
+        parallel, count, {{height, width}, source.addresses(height, width), destination.addresses(height, width)});
+}
+
+template <Code operands, class T, Layout memory>
+LxpStatus QRBackSubstMember<operands, T, memory>::run(const Arguments &arguments) {
+    if (const LxpStatus status = firstFailure<detail::qr::orderOfChecks>(arguments); status != lxpStatusOk) {
+        return status;
+    }
+    const auto &[factors, buffer, right, destination, size, number] = arguments.parts;
+    const int width = size.width();
+    const int height = size.height();
+    const int count = number.value;
+
+    bool parallel = false;
+    if constexpr (isArray) {
+        constexpr Kind matrix = operands[0];
+        const Work work = matrix.array ? (Work(width) * (Work(height) + 1) + height) * count
+                                       : Work(width) * height + (Work(width) + height) * count;
+        parallel = rowOf<QRBackSubstMember, detail::qr::thresholds>.isParallel(work);
+    }
+    return detail::qr::substituteAll<T>(parallel, count,
+                                        {{height, width},
+                                         factors.addresses(height, width),
+                                         buffer.first,
+                                         right.addresses(1, height),
+                                         destination.addresses(1, width)});
+}
+
+} // namespace lxpm

@@ -1,0 +1,178 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+// What the product families promise by name.
+
+#include "support/thread_count.h"
+
+#include <lxpm.h>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <numeric>
+#include <vector>
+
+namespace lxpm::test {
+
+namespace {
+
+std::vector<float> ascending(std::size_t size) {
+    std::vector<float> values(size);
+    std::iota(values.begin(), values.end(), 1.0f);
+    return values;
+}
+
+TEST(Products, NullPointerIsReportedBeforeCount) {
+    const std::vector<float> src(9);
+    EXPECT_EQ(lxpmMul_mam_32f(src.data(), 36, 12, 4, 3, 3, src.data(), 12, 4, 3, 3, nullptr, 36, 12, 4, 0),
+              lxpStatusNullPtrErr);
+}
+
+TEST(Products, InnerDimensionsMustAgree) {
+    const std::vector<float> src(16);
+    std::vector<float> dst(16, 7.0f);
+    EXPECT_EQ(lxpmMul_mm_32f(src.data(), 12, 4, 3, 3, src.data(), 12, 4, 3, 4, dst.data(), 12, 4),
+              lxpStatusSizeMatchErr);
+    EXPECT_EQ(dst, std::vector<float>(16, 7.0f));
+}
+
+TEST(Products, OfTransposedMatricesAgreeInTheirWidths) {
+    const std::vector<float> src1 = {1, 2, 3, 4, 5, 6};                   // 2 rows of 3
+    const std::vector<float> src2 = {1, 0, 0, 0, 1, 0, 0, 0, 1, 1, 1, 1}; // 4 rows of 3
+    const std::vector<float> expected = {1, 2, 3, 6, 4, 5, 6, 15};        // 2 rows of 4
+    std::vector<float> dst(8);
+    EXPECT_EQ(lxpmMul_mt_32f(src1.data(), 12, 4, 3, 2, src2.data(), 12, 4, 3, 4, dst.data(), 16, 4), lxpStatusOk);
+    EXPECT_EQ(dst, expected);
+}
+
+TEST(Products, StrideIsReportedBeforeOffset) {
+    const std::vector<float> src(16);
+    std::vector<float> dst(16);
+    const float *srcPtrs[] = {src.data()};
+    float *dstPtrs[] = {dst.data()};
+    const auto call = [&](int elemStride, int offset) {
+        return lxpmMul_mam_32f_L(srcPtrs, offset, 8, elemStride, 2, 2, src.data(), 8, 4, 2, 2, dstPtrs, 0, 8, 4, 1);
+    };
+    EXPECT_EQ(call(6, 0), lxpStatusStrideErr);
+    EXPECT_EQ(call(4, 2), lxpStatusRoiShiftErr);
+    EXPECT_EQ(call(6, 2), lxpStatusStrideErr);
+}
+
+TEST(Products, OfAHundredMatricesOfOrder4AreParallel) {
+    const std::vector<float> src1 = ascending(1600);
+    const std::vector<float> src2 = ascending(16);
+    std::vector<float> dst(1600);
+    const auto call = [&](int count) {
+        return lxpmMul_mam_32f(src1.data(), 64, 16, 4, 4, 4, src2.data(), 16, 4, 4, 4, dst.data(), 64, 16, 4, count);
+    };
+    setThreadCount(2);
+    EXPECT_EQ(call(100), lxpStatusOk);
+    EXPECT_EQ(threadCountQuestions(), 2);
+    setThreadCount(2);
+    EXPECT_EQ(call(10), lxpStatusOk);
+    EXPECT_EQ(threadCountQuestions(), 0);
+}
+
+TEST(Products, OfNegativeZerosArePositiveZero) {
+    for (int order = 1; order <= 9; ++order) {
+        const std::vector<float> negative(81, -0.0f);
+        const std::vector<float> ones(81, 1.0f);
+        std::vector<float> dst(81, 7.0f);
+        ASSERT_EQ(lxpmMul_mm_32f(negative.data(), 4 * order, 4, order, order, ones.data(), 4 * order, 4, order, order,
+                                 dst.data(), 4 * order, 4),
+                  lxpStatusOk);
+        for (int i = 0; i < order * order; ++i) {
+            EXPECT_EQ(dst[i], 0.0f);
+            EXPECT_FALSE(std::signbit(dst[i])) << "order " << order << ", element " << i;
+        }
+    }
+}
+
+TEST(Products, OfPaddedRowsKeepTheFourthElement) {
+    // Rows of three at 16 bytes, addresses at multiples of 16: the layout in which a whole register is tempting.
+    constexpr int count = 5;
+    alignas(16) float src1[12 * count];
+    alignas(16) float src2[12 * count];
+    alignas(16) float dst[12 * count];
+    for (int i = 0; i < 12 * count; ++i) {
+        src1[i] = src2[i] = static_cast<float>(i % 7 - 3);
+        dst[i] = 99.0f;
+    }
+    ASSERT_EQ(lxpmMul_mama_32f(src1, 48, 16, 4, 3, 3, src2, 48, 16, 4, 3, 3, dst, 48, 16, 4, count), lxpStatusOk);
+    for (int object = 0; object < count; ++object) {
+        for (int row = 0; row < 3; ++row) {
+            EXPECT_EQ(dst[12 * object + 4 * row + 3], 99.0f) << "object " << object << ", row " << row;
+        }
+    }
+}
+
+TEST(Products, WithConstantReadTransposed) {
+    const std::vector<float> src = {1, 2, 3, 4, 5, 6}; // 2 rows of 3
+    std::vector<float> dst(6);
+    EXPECT_EQ(lxpmMul_tac_32f(src.data(), 24, 12, 4, 2.0f, dst.data(), 24, 8, 4, 2, 3, 1), lxpStatusOk);
+    EXPECT_EQ(dst, (std::vector<float>{2, 8, 4, 10, 6, 12}));
+}
+
+TEST(Products, WrappingMeasureStaysSerial) {
+    // 2 * 32769 * 32768 = 2^31 + 65536; all objects lie one element apart.
+    constexpr int length = 32769;
+    constexpr int count = 32768;
+    const std::vector<float> src(length + count - 1, 3.0f);
+    std::vector<float> dst(length + count - 1);
+    setThreadCount(2);
+    EXPECT_EQ(lxpmMul_vac_32f(src.data(), 4, 4, 2.0f, dst.data(), 4, 4, length, count), lxpStatusOk);
+    EXPECT_EQ(threadCountQuestions(), 0);
+    EXPECT_EQ(dst, std::vector<float>(length + count - 1, 6.0f));
+}
+
+TEST(Products, GaxpySizesMustAgree) {
+    const std::vector<float> src(9);
+    std::vector<float> dst(9);
+    EXPECT_EQ(lxpmGaxpy_mv_32f(src.data(), 12, 4, 3, 2, src.data(), 4, 3, src.data(), 4, 3, dst.data(), 4),
+              lxpStatusSizeMatchErr);
+}
+
+TEST(Products, GaxpyOfAZeroMatrixIsTheAddend) {
+    const std::vector<float> zero(81);
+    const std::vector<float> vector = ascending(9);
+    for (int order = 1; order <= 9; ++order) {
+        std::vector<float> addend = ascending(9);
+        addend[0] = std::numeric_limits<float>::denorm_min();
+        addend.resize(order);
+        std::vector<float> dst(order);
+        ASSERT_EQ(lxpmGaxpy_mv_32f(zero.data(), 4 * order, 4, order, order, vector.data(), 4, order, addend.data(), 4,
+                                   order, dst.data(), 4),
+                  lxpStatusOk);
+        EXPECT_EQ(dst, addend);
+    }
+}
+
+TEST(Products, GaxpyWithObjectPointersIsParallelEarlier) {
+    // (4 + 2 * 4) * 50 = 600 elements with gaps between them.
+    constexpr int count = 50;
+    const std::vector<float> matrix = ascending(16);
+    const std::vector<float> src = ascending(8 * count);
+    std::vector<float> dst(8 * count);
+    std::vector<const float *> srcPtrs;
+    std::vector<float *> dstPtrs;
+    for (int object = 0; object < count; ++object) {
+        srcPtrs.push_back(src.data() + 8 * object);
+        dstPtrs.push_back(dst.data() + 8 * object);
+    }
+    setThreadCount(2);
+    EXPECT_EQ(lxpmGaxpy_mva_32f_L(matrix.data(), 16, 4, 4, 4, srcPtrs.data(), 0, 8, 4, srcPtrs.data(), 0, 8, 4,
+                                  dstPtrs.data(), 0, 8, count),
+              lxpStatusOk);
+    EXPECT_EQ(threadCountQuestions(), 2);
+    setThreadCount(2);
+    EXPECT_EQ(lxpmGaxpy_mva_32f(matrix.data(), 16, 4, 4, 4, src.data(), 32, 8, 4, src.data(), 32, 8, 4, dst.data(), 32,
+                                8, count),
+              lxpStatusOk);
+    EXPECT_EQ(threadCountQuestions(), 0);
+}
+
+} // namespace
+
+} // namespace lxpm::test
