@@ -54,9 +54,9 @@ Surface::Surface(Mesh mesh)
       areas(triangles.size()), unitNormals(triangles.size()), packedNormals(triangles.size()),
       crossMatrices(triangles.size()), areaGradients(triangles.size()), normalSums(asRead.size()),
       areaSums(asRead.size()), gradientSums(asRead.size()), normalLengths(asRead.size()), bendings(asRead.size()),
-      meanCurvatures(asRead.size()), fits(neighbours, pullOfPlanes), covariances(asRead.size()),
-      directions(asRead.size()), variances(asRead.size()), agreements(asRead.size()), pointNormals(asRead.size()),
-      variations(asRead.size()) {
+      meanCurvatures(asRead.size()), fits(neighbours, pullOfPlanes), deviationsFromMean(neighbours, 1),
+      covariances(asRead.size()), directions(asRead.size()), variances(asRead.size()), agreements(asRead.size()),
+      pointNormals(asRead.size()), variations(asRead.size()) {
 }
 
 } // namespace lxpm::mesh

@@ -28,6 +28,11 @@ struct Fits {
     // A little weight, `pull`, draws them towards the plane.
     Fits(const Neighbours &neighbours, float pull);
 
+    float *rightSide(std::size_t vertex) { return &rightSides[vertex * static_cast<std::size_t>(matrices.height())]; }
+    const float *rightSide(std::size_t vertex) const {
+        return &rightSides[vertex * static_cast<std::size_t>(matrices.height())];
+    }
+
     NeighbourRows matrices;
     std::vector<float> rightSides;
     NeighbourRows factors;
@@ -81,13 +86,13 @@ struct Surface {
     Fits fits;
 
     // for each vertex, from the points of its neighbours alone
+    NeighbourRows deviationsFromMean; // with the identity below them
     std::vector<Matrix3> covariances; // with the identity added
-    std::vector<float> eigenBuffer;
-    std::vector<Matrix3> directions; // by columns, of greatest variance first
-    std::vector<Point> variances;    // along them, with 1 added
-    std::vector<float> agreements;   // of the direction of least variance with the normal: the cosine
-    std::vector<Point> pointNormals; // that direction, outwards
-    std::vector<float> variations;   // the least variance as a share of all
+    std::vector<Matrix3> directions;  // by columns, of greatest variance first
+    std::vector<Point> variances;     // along them, with 1 added
+    std::vector<float> agreements;    // of the direction of least variance with the normal: the cosine
+    std::vector<Point> pointNormals;  // that direction, outwards
+    std::vector<float> variations;    // the least variance as a share of all
 
     // for each edge
     std::vector<Quadric> edgeQuadrics;

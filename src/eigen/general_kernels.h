@@ -8,6 +8,7 @@
 #include "eigen/general_objects.h"
 #include "eigen/lane_memory.h"
 #include "eigen/orders.h"
+#include "runtime/with_order.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -35,19 +36,15 @@ class GeneralKernel {
 public:
     static LxpStatus run(const GeneralProblem<T> &shared, int first, int count, T *buffer) {
         const GeneralKernel kernel(shared, buffer);
-        switch (shared.order) {
-        case 2:
-            return kernel.template all<2>(FixedOrder<2>(), first, count);
-        case 3:
-            return kernel.template all<3>(FixedOrder<3>(), first, count);
-        case 4:
-            return kernel.template all<4>(FixedOrder<4>(), first, count);
-        default:
-            if (shared.order <= mostGeneralInLanes) {
+        return withOrder<2, 4>(shared.order, [&](auto order) {
+            if constexpr (order != 0) {
+                return kernel.template all<order>(order, first, count);
+            } else if (shared.order <= mostGeneralInLanes) {
                 return kernel.template all<mostGeneralInLanes>(shared.order, first, count);
+            } else {
+                return overEach(first, count, [&](int object) { return kernel.large(object); });
             }
-            return overEach(first, count, [&](int object) { return kernel.large(object); });
-        }
+        });
     }
 
 private:

@@ -9,12 +9,8 @@
 #include <lxpm/types.h>
 
 #include <cstddef>
-#include <type_traits>
 
 namespace lxpm {
-
-template <int N>
-using FixedOrder = std::integral_constant<int, N>;
 
 // Tells the compiler what it cannot see from where an order comes: that all loops over it run.
 template <int least, int most>

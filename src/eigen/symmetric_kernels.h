@@ -8,6 +8,7 @@
 #include "eigen/orders.h"
 #include "eigen/symmetric.h"
 #include "eigen/symmetric_objects.h"
+#include "runtime/with_order.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -53,25 +54,17 @@ class SymmetricKernel {
 public:
     static LxpStatus run(const SymmetricProblem<T> &shared, int first, int count, T *buffer) {
         SymmetricKernel kernel(shared, buffer);
-        switch (shared.order) {
-        case 1:
-            return overEach(first, count, [&](int object) { return kernel.single(object); });
-        case 2:
-            return kernel.template all<2>(FixedOrder<2>(), first, count);
-        case 3:
-            return kernel.template all<3>(FixedOrder<3>(), first, count);
-        case 4:
-            return kernel.template all<4>(FixedOrder<4>(), first, count);
-        case 5:
-            return kernel.template all<5>(FixedOrder<5>(), first, count);
-        case 6:
-            return kernel.template all<6>(FixedOrder<6>(), first, count);
-        default:
-            if (shared.order <= mostInLanes) {
+        return withOrder<1, 6>(shared.order, [&](auto order) {
+            if constexpr (order == 1) {
+                return overEach(first, count, [&](int object) { return kernel.single(object); });
+            } else if constexpr (order != 0) {
+                return kernel.template all<order>(order, first, count);
+            } else if (shared.order <= mostInLanes) {
                 return kernel.template all<mostInLanes>(shared.order, first, count);
+            } else {
+                return overEach(first, count, [&](int object) { return kernel.large(object); });
             }
-            return overEach(first, count, [&](int object) { return kernel.large(object); });
-        }
+        });
     }
 
 private:

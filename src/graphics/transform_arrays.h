@@ -16,8 +16,6 @@ namespace lxpm {
 template <int K>
 using Vectors = std::array<Group<float>, K>;
 
-inline constexpr int groupLength = 8;
-
 // How vectors stand in memory, as far as it matters to the way they are read and written. A vector of three elements is
 // read as four where nothing but the space between two vectors is read with it: if there is another vector close
 // behind, that space is as good as the vectors themselves.
@@ -135,14 +133,14 @@ int transformGroups(const Transform &transform, const float *src, std::ptrdiff_t
                     std::ptrdiff_t dstStride, int count) {
     const auto inLanes = transform.lanes();
     int done = 0;
-    for (; count - done >= groupLength; done += groupLength) {
+    for (; count - done >= groupSize<float>; done += groupSize<float>) {
         Vectors<Transform::to> result;
         if (!inLanes(readVectors<Transform::from, spacing>(src, srcStride), result)) {
             break;
         }
         writeVectors<Transform::to, isPacked>(dst, dstStride, result);
-        src = shifted(src, groupLength * srcStride);
-        dst = shifted(dst, groupLength * dstStride);
+        src = shifted(src, groupSize<float> * srcStride);
+        dst = shifted(dst, groupSize<float> * dstStride);
     }
     return done;
 }
@@ -171,7 +169,7 @@ int transformGroups(const Transform &transform, const float *src, std::ptrdiff_t
 template <class Transform>
 int transformArray(const Transform &transform, const float *src, std::ptrdiff_t srcStride, float *dst,
                    std::ptrdiff_t dstStride, int count) {
-    const int done = count < groupLength ? 0 : transformGroups(transform, src, srcStride, dst, dstStride, count);
+    const int done = count < groupSize<float> ? 0 : transformGroups(transform, src, srcStride, dst, dstStride, count);
     return done + transformOneByOne(transform, shifted(src, done * srcStride), srcStride,
                                     shifted(dst, done * dstStride), dstStride, count - done);
 }

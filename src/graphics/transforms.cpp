@@ -9,8 +9,6 @@
 #include "graphics/transform_arrays.h"
 #include "runtime/numbers.h"
 
-#include <type_traits>
-
 namespace lxpm {
 
 namespace {

@@ -56,28 +56,24 @@ public:
 
 private:
     // An operand, read as it is stored: its rows, or its columns if these touch.
-    class Factor {
-    public:
+    struct Factor {
+        bool isTurned;
+        bool isSingle;
+        std::ptrdiff_t rowStep; // between the registers of two rows
+        std::ptrdiff_t columnStep;
+        GroupSource<T> source;
+
         Factor(const Addresses<const T> &operand, std::ptrdiff_t rows, std::ptrdiff_t columns)
             : isTurned(!operand.rowsTouch() && operand.transposed().rowsTouch()), isSingle(operand.isSingle()),
+              rowStep(isTurned ? 1 : columns), columnStep(isTurned ? rows : 1),
               source(isTurned ? operand.transposed() : operand, static_cast<int>(isTurned ? columns : rows),
-                     static_cast<int>(isTurned ? rows : columns)),
-              rowStep(isTurned ? 1 : columns), columnStep(isTurned ? rows : 1) {}
+                     static_cast<int>(isTurned ? rows : columns)) {}
 
         void load(std::ptrdiff_t object, Group<T> *to) const {
             if (object == 0 || !isSingle) {
                 source.template load<0, 0>(object, to);
             }
         }
-
-    private:
-        bool isTurned;
-        bool isSingle;
-        GroupSource<T> source;
-
-    public:
-        std::ptrdiff_t rowStep; // between the registers of two rows
-        std::ptrdiff_t columnStep;
     };
 
     static void multiply(const MatrixProduct<T> &p, const Factor &a, const Group<T> *elementsOfA, const Factor &b,

@@ -11,6 +11,7 @@
 #include "products/staging.h"
 #include "products/unrolled_product.h"
 #include "runtime/parallel.h"
+#include "runtime/with_order.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -104,28 +105,19 @@ void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
 
 // The objects of one thread.
 template <class T>
-void multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     const bool isUnrolled = p.inner == p.columns && (p.rows == 1 || p.rows == p.inner);
-    switch (isUnrolled ? p.inner : 0) {
-    case 3:
-        return multiplySmall<T, 3>(p, count);
-    case 4:
-        return multiplySmall<T, 4>(p, count);
-    case 5:
-        return multiplySmall<T, 5>(p, count);
-    case 6:
-        return multiplySmall<T, 6>(p, count);
-    case 7:
-        return multiplySmall<T, 7>(p, count);
-    case 8:
-        return multiplySmall<T, 8>(p, count);
-    default: {
-        const std::ptrdiff_t done = GroupProduct<T>::isBetter(p, count) ? GroupProduct<T>::run(p, count) : 0;
-        if (done < count) {
-            PanelProduct<T>::run(p.from(done), count - done);
+    return withOrder<3, 8>(isUnrolled ? static_cast<int>(p.inner) : 0, [&](auto order) {
+        if constexpr (order != 0) {
+            multiplySmall<T, order>(p, count);
+        } else {
+            const std::ptrdiff_t done = GroupProduct<T>::isBetter(p, count) ? GroupProduct<T>::run(p, count) : 0;
+            if (done < count) {
+                PanelProduct<T>::run(p.from(done), count - done);
+            }
         }
-    }
-    }
+        return lxpStatusOk;
+    });
 }
 
 template <class T>
@@ -138,20 +130,16 @@ LxpStatus multiplyMatrices(bool parallel, int count, const MatrixProduct<T> &pro
         p.b = product.a.transposed();
         p.dst = product.dst.transposed();
     }
-    return overObjects(parallel, count, [&](int first, int objects) {
-        multiplyObjects(p.from(first), objects);
-        return lxpStatusOk;
-    });
+    return overObjects(parallel, count,
+                       [&](int first, int objects) { return multiplyObjects(p.from(first), objects); });
 }
 
 // As a row: the vector times the transposed matrix.
 template <class T>
 LxpStatus multiplyVector(bool parallel, int count, const VectorProduct<T> &v) {
     const MatrixProduct<T> p = {1, v.inner, v.rows, v.vector, v.matrix.transposed(), v.addend, v.dst};
-    return overObjects(parallel, count, [&](int first, int objects) {
-        multiplyObjects(p.from(first), objects);
-        return lxpStatusOk;
-    });
+    return overObjects(parallel, count,
+                       [&](int first, int objects) { return multiplyObjects(p.from(first), objects); });
 }
 
 } // namespace lxpm

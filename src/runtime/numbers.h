@@ -100,8 +100,8 @@ struct NumberOf<Lanes<T, N>> {
     static constexpr int lanes = N;
 };
 
-using Lanes32 = Lanes<float, fullLanes<float>>;
-using Lanes64 = Lanes<double, fullLanes<double>>;
+using Lanes32 = Group<float>;
+using Lanes64 = Group<double>;
 using Mask32 = MaskOf<Lanes32>;
 using Mask64 = MaskOf<Lanes64>;
 

@@ -6,8 +6,7 @@
 
 #include "runtime/addresses.h"
 #include "runtime/groups.h"
-
-#include <lxpm/types.h>
+#include "runtime/with_order.h"
 
 #include <cstddef>
 #include <type_traits>
@@ -98,18 +97,6 @@ template <Part part, class T, std::size_t size, class Use>
     } else {
         use(AnyMatrix<const T>{source});
     }
-}
-
-// Calls kernel(order): a constant where the loops of an order are unrolled, 0 for all others.
-template <int least = 3, int greatest = 6, class Kernel>
-inline LxpStatus withOrder(int order, const Kernel &kernel) {
-    LxpStatus status = lxpStatusOk;
-    const auto run = [&]<int... above>(std::integer_sequence<int, above...>) {
-        return ((order == least + above && (status = kernel(std::integral_constant<int, least + above>()), true)) ||
-                ...);
-    };
-    const bool isUnrolled = run(std::make_integer_sequence<int, greatest - least + 1>());
-    return isUnrolled ? status : kernel(std::integral_constant<int, 0>());
 }
 
 // Calls f(i) for from <= i < to. Bound: a number above `to` that the loop is to be unrolled for, 0 if it is not.

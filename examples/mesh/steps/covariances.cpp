@@ -18,8 +18,6 @@ namespace lxpm::mesh {
 
 namespace {
 
-constexpr int matrixStride = sizeof(Matrix3);
-
 constexpr int leastValue = 2; // eigenvalues descend
 
 // Of the reduction of a 3x3 matrix and of the rotations of a few sweeps.
@@ -30,9 +28,8 @@ constexpr double roundingsOfEigenproblem = 48;
 // With the identity added, which moves all eigenvalues by 1 and no eigenvector: without it that of a plane would be
 // singular.
 Step covariances(Surface &surface) {
-    NeighbourRows rows(surface.neighbours, 1);
     for (std::size_t k = 0; k < surface.vertices.size(); ++k) {
-        Point *row = rows.matrix(k);
+        Point *row = surface.deviationsFromMean.matrix(k);
         const std::vector<Real3> ways = waysToNeighbours(surface, static_cast<int>(k));
         Real3 mean{};
         for (const Real3 &way : ways) {
@@ -44,50 +41,19 @@ Step covariances(Surface &surface) {
             *row++ = {float(way[0] - mean[0]), float(way[1] - mean[1]), float(way[2] - mean[2])};
         }
     }
-    return {
-        .name = "covariances of neighbours",
-        .function = "lxpmMul_tama_32f",
-        .objects = surface.vertices.size(),
-        .compute =
-            [&surface, rows] {
-                return lxpmMul_tama_32f(rows.data(), rows.stride(), pointStride, floatStride, 3, rows.height(), //
-                                        rows.data(), rows.stride(), pointStride, floatStride, 3, rows.height(), //
-                                        surface.covariances[0][0].data(), matrixStride, pointStride, floatStride,
-                                        countOf(surface.covariances));
-            },
-        .limit = static_cast<double>(rows.height()),
-        .deviation =
-            [&surface, rows] {
-                Deviation deviation;
-                for (std::size_t k = 0; k < surface.covariances.size(); ++k) {
-                    for (int i = 0; i < 3; ++i) {
-                        for (int j = 0; j < 3; ++j) {
-                            double exact = 0, magnitude = 0;
-                            for (int l = 0; l < rows.height(); ++l) {
-                                const double term = double(rows.matrix(k)[l][i]) * rows.matrix(k)[l][j];
-                                exact += term;
-                                magnitude += std::abs(term);
-                            }
-                            deviation.add(surface.covariances[k][i][j], exact, magnitude);
-                        }
-                    }
-                }
-                return deviation;
-            },
-    };
+    return productsOfColumns("covariances of neighbours", surface.deviationsFromMean, surface.covariances);
 }
 
 Step principalDirections(Surface &surface) {
-    surface.eigenBuffer.resize(9 * std::size_t(std::max(ownGetNumThreads(), 1)));
     return {
         .name = "principal directions",
         .function = "lxpmEigenValuesVectorsSym_ma_32f",
         .objects = surface.vertices.size(),
         .compute =
-            [&surface] {
+            [&surface, buffer = std::vector<float>(9 * std::size_t(std::max(ownGetNumThreads(), 1)))]() mutable {
                 return lxpmEigenValuesVectorsSym_ma_32f(
                     surface.covariances[0][0].data(), matrixStride, pointStride, floatStride,
-                    surface.eigenBuffer.data(), //
+                    buffer.data(), //
                     surface.directions[0][0].data(), matrixStride, pointStride, floatStride,
                     surface.variances[0].data(), 3, countOf(surface.covariances));
             },
@@ -97,12 +63,12 @@ Step principalDirections(Surface &surface) {
                 Deviation deviation;
                 for (std::size_t k = 0; k < surface.directions.size(); ++k) {
                     const Matrix3 &a = surface.covariances[k], &v = surface.directions[k];
-                    const double norm = std::hypot(length(real(a[0])), length(real(a[1])), length(real(a[2])));
+                    const double size = norm(real(a));
                     for (int column = 0; column < 3; ++column) {
                         const Real3 direction = {v[0][column], v[1][column], v[2][column]};
                         for (int i = 0; i < 3; ++i) {
                             deviation.add(dot(real(a[i]), direction),
-                                          double(surface.variances[k][column]) * direction[i], norm);
+                                          double(surface.variances[k][column]) * direction[i], size);
                         }
                         for (int other = 0; other <= column; ++other) {
                             const Real3 second = {v[0][other], v[1][other], v[2][other]};

@@ -63,8 +63,8 @@ Step areaGradients(Surface &surface) {
                 LxpStatus status = lxpStatusOk;
                 for (int c = 0; c < 3 && status == lxpStatusOk; ++c) {
                     status = lxpmMul_mava_32f(
-                        surface.crossMatrices[0][0].data(), triangleStride, pointStride, floatStride, 3, 3, //
-                        surface.sides[0][c].data(), triangleStride, floatStride, 3,                         //
+                        surface.crossMatrices[0][0].data(), matrixStride, pointStride, floatStride, 3, 3, //
+                        surface.sides[0][c].data(), triangleStride, floatStride, 3,                       //
                         surface.areaGradients[0][c].data(), triangleStride, floatStride, countOf(surface.triangles));
                 }
                 return status;

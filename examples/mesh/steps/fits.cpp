@@ -17,8 +17,6 @@ namespace lxpm::mesh {
 
 namespace {
 
-constexpr int matrixStride = sizeof(Matrix3);
-
 // Two directions that make a right-handed frame with the normal.
 std::array<Real3, 2> tangentsOf(const Real3 &normal) {
     const int least = std::abs(normal[0]) < std::abs(normal[1]) ? 0 : 1;
@@ -27,13 +25,8 @@ std::array<Real3, 2> tangentsOf(const Real3 &normal) {
     for (int j = 0; j < 3; ++j) {
         first[j] -= normal[least] * normal[j];
     }
-    const double norm = length(first);
-    for (double &element : first) {
-        element /= norm;
-    }
-    return {{first,
-             {normal[1] * first[2] - normal[2] * first[1], normal[2] * first[0] - normal[0] * first[2],
-              normal[0] * first[1] - normal[1] * first[0]}}};
+    first = normalised(first);
+    return {first, cross(normal, first)};
 }
 
 void fillFits(Surface &surface) {
@@ -43,7 +36,7 @@ void fillFits(Surface &surface) {
         const Real3 normal = length(given) > 0 ? given : Real3{0, 0, 1};
         const auto [first, second] = tangentsOf(normal);
         Point *row = fits.matrices.matrix(k);
-        float *height = &fits.rightSides[k * static_cast<std::size_t>(fits.matrices.height())];
+        float *height = fits.rightSide(k);
         for (const Real3 &way : waysToNeighbours(surface, static_cast<int>(k))) {
             const double u = dot(way, first), v = dot(way, second);
             *row++ = {float(u * u), float(u * v), float(v * v)};
@@ -53,14 +46,33 @@ void fillFits(Surface &surface) {
 }
 
 // The plain computation: what the exact fit is, and how far roundings move it.
-using Real3x3 = std::array<Real3, 3>;
+
+struct NormalEquations {
+    Real3x3 matrix{};               // transposed(A) * A
+    Real3 side{}, sideMagnitudes{}; // transposed(A) * b, and the same sums over magnitudes
+};
+
+NormalEquations normalEquations(const Fits &fits, std::size_t vertex) {
+    const Point *rows = fits.matrices.matrix(vertex);
+    const float *right = fits.rightSide(vertex);
+    NormalEquations equations;
+    for (int i = 0; i < fits.matrices.height(); ++i) {
+        const Real3 row = real(rows[i]);
+        for (int j = 0; j < 3; ++j) {
+            for (int l = 0; l < 3; ++l) {
+                equations.matrix[j][l] += row[j] * row[l];
+            }
+            equations.side[j] += row[j] * right[i];
+            equations.sideMagnitudes[j] += std::abs(row[j] * right[i]);
+        }
+    }
+    return equations;
+}
 
 struct ExactFit {
     Real3 solution{};
-    double sensitivityOfQr = 0;      // the way of the solution for a relative change of 1 of matrix and right side
-    double sensitivityOfNormal = 0;  // the same for the matrix of the normal equations and their right side
-    Real3x3 normalMatrix{};          // transposed(A) * A
-    Real3 normalSide{}, sideTerms{}; // transposed(A) * b, and the same sums over magnitudes
+    double sensitivityOfQr = 0;     // the way of the solution for a relative change of 1 of matrix and right side
+    double sensitivityOfNormal = 0; // the same for the matrix of the normal equations and their right side
 };
 
 Real3x3 inverseOf(const Real3x3 &m) {
@@ -78,35 +90,21 @@ Real3x3 inverseOf(const Real3x3 &m) {
     return inverse;
 }
 
-double norm(const Real3x3 &m) {
-    return std::hypot(length(m[0]), length(m[1]), length(m[2]));
-}
-
 ExactFit exactFit(const Fits &fits, std::size_t vertex) {
-    const int height = fits.matrices.height();
-    const Point *rows = fits.matrices.matrix(vertex);
-    const float *right = &fits.rightSides[vertex * static_cast<std::size_t>(height)];
+    const NormalEquations equations = normalEquations(fits, vertex);
+    const Real3x3 inverse = inverseOf(equations.matrix);
     ExactFit fit;
-    double squares = 0, rightSquares = 0;
-    for (int i = 0; i < height; ++i) {
+    for (int j = 0; j < 3; ++j) {
+        fit.solution[j] = dot(inverse[j], equations.side);
+    }
+    const Point *rows = fits.matrices.matrix(vertex);
+    const float *right = fits.rightSide(vertex);
+    double squares = 0, rightSquares = 0, residual = 0;
+    for (int i = 0; i < fits.matrices.height(); ++i) {
         const Real3 row = real(rows[i]);
-        for (int j = 0; j < 3; ++j) {
-            for (int l = 0; l < 3; ++l) {
-                fit.normalMatrix[j][l] += row[j] * row[l];
-            }
-            fit.normalSide[j] += row[j] * right[i];
-            fit.sideTerms[j] += std::abs(row[j] * right[i]);
-        }
+        const double r = right[i] - dot(row, fit.solution);
         squares += dot(row, row);
         rightSquares += double(right[i]) * right[i];
-    }
-    const Real3x3 inverse = inverseOf(fit.normalMatrix);
-    for (int j = 0; j < 3; ++j) {
-        fit.solution[j] = dot(inverse[j], fit.normalSide);
-    }
-    double residual = 0;
-    for (int i = 0; i < height; ++i) {
-        const double r = right[i] - dot(real(rows[i]), fit.solution);
         residual += r * r;
     }
     const double a = std::sqrt(squares), x = length(fit.solution), b = std::sqrt(rightSquares);
@@ -147,7 +145,7 @@ Step factorsOfFits(Surface &surface) {
                 // Reflections leave lengths and angles as they are: transposed(R) * R = transposed(A) * A.
                 Deviation deviation;
                 for (std::size_t k = 0; k < count; ++k) {
-                    const Real3x3 exact = exactFit(fits, k).normalMatrix;
+                    const Real3x3 exact = normalEquations(fits, k).matrix;
                     const Point *factor = fits.factors.matrix(k);
                     for (int i = 0; i < 3; ++i) {
                         for (int j = i; j < 3; ++j) {
@@ -195,36 +193,7 @@ Step quadraticFits(Surface &surface) {
 }
 
 Step normalMatrices(Surface &surface) {
-    Fits &fits = surface.fits;
-    return {
-        .name = "normal equations' matrices",
-        .function = "lxpmMul_tama_32f",
-        .objects = surface.vertices.size(),
-        .compute =
-            [&fits] {
-                const int height = fits.matrices.height(), stride = fits.matrices.stride();
-                return lxpmMul_tama_32f(fits.matrices.data(), stride, pointStride, floatStride, 3, height, //
-                                        fits.matrices.data(), stride, pointStride, floatStride, 3, height, //
-                                        fits.normalMatrices[0][0].data(), matrixStride, pointStride, floatStride,
-                                        countOf(fits.normalMatrices));
-            },
-        .limit = static_cast<double>(fits.matrices.height()),
-        .deviation =
-            [&fits] {
-                Deviation deviation;
-                for (std::size_t k = 0; k < fits.normalMatrices.size(); ++k) {
-                    const Real3x3 exact = exactFit(fits, k).normalMatrix;
-                    for (int i = 0; i < 3; ++i) {
-                        for (int j = 0; j < 3; ++j) {
-                            // Not the sum over magnitudes: it is no less.
-                            deviation.add(fits.normalMatrices[k][i][j], exact[i][j],
-                                          std::sqrt(exact[i][i] * exact[j][j]));
-                        }
-                    }
-                }
-                return deviation;
-            },
-    };
+    return productsOfColumns("normal equations' matrices", surface.fits.matrices, surface.fits.normalMatrices);
 }
 
 Step normalRightSides(Surface &surface) {
@@ -247,9 +216,9 @@ Step normalRightSides(Surface &surface) {
             [&fits] {
                 Deviation deviation;
                 for (std::size_t k = 0; k < fits.normalSides.size(); ++k) {
-                    const ExactFit fit = exactFit(fits, k);
+                    const NormalEquations exact = normalEquations(fits, k);
                     for (int j = 0; j < 3; ++j) {
-                        deviation.add(fits.normalSides[k][j], fit.normalSide[j], fit.sideTerms[j]);
+                        deviation.add(fits.normalSides[k][j], exact.side[j], exact.sideMagnitudes[j]);
                     }
                 }
                 return deviation;

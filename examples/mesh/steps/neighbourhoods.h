@@ -3,7 +3,7 @@
 #pragma once
 
 #include "real.h"
-#include "surface.h"
+#include "step.h"
 
 namespace lxpm::mesh {
 
@@ -13,5 +13,9 @@ double unitAround(const Surface &surface, int vertex);
 
 // The vectors from a vertex to its neighbours, in that unit.
 std::vector<Real3> waysToNeighbours(const Surface &surface, int vertex);
+
+// The step transposed(A) * A for the rows of every vertex, the products of the columns with one another. Both must
+// outlive the step.
+Step productsOfColumns(std::string_view name, const NeighbourRows &rows, std::vector<Matrix3> &products);
 
 } // namespace lxpm::mesh

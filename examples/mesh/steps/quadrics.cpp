@@ -22,7 +22,8 @@ constexpr int rowStride = 4 * doubleStride;
 Quadric quadricOfPlane(const Point &a, const Point &b, const Point &c) {
     const Real3 u = {double(b[0]) - a[0], double(b[1]) - a[1], double(b[2]) - a[2]};
     const Real3 v = {double(c[0]) - a[0], double(c[1]) - a[1], double(c[2]) - a[2]};
-    double plane[4] = {u[1] * v[2] - u[2] * v[1], u[2] * v[0] - u[0] * v[2], u[0] * v[1] - u[1] * v[0], 0};
+    const auto [x, y, z] = cross(u, v);
+    double plane[4] = {x, y, z, 0};
     const double doubleArea = std::hypot(plane[0], plane[1], plane[2]);
     Quadric quadric{};
     if (doubleArea == 0) {

@@ -10,6 +10,7 @@ namespace lxpm::mesh {
 constexpr int floatStride = sizeof(float);
 constexpr int doubleStride = sizeof(double);
 constexpr int pointStride = sizeof(Point);
+constexpr int matrixStride = sizeof(Matrix3);
 constexpr int vertexStride = sizeof(Vertex);
 constexpr int triangleStride = sizeof(Sides); // of what has a point for each corner or side of a triangle
 

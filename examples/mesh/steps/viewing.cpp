@@ -59,14 +59,6 @@ Real3 minus(const Real3 &a, const Real3 &b) {
     return {a[0] - b[0], a[1] - b[1], a[2] - b[2]};
 }
 
-Real3 cross(const Real3 &a, const Real3 &b) {
-    return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
-}
-
-Real3 normalised(const Real3 &v) {
-    return {v[0] / length(v), v[1] / length(v), v[2] / length(v)};
-}
-
 void compareCamera(const Stage &stage, std::size_t v, Deviation &deviation) {
     const Real3 target = real(stage.targets[v]), eye = real(stage.eyes[v]);
     const Matrix4 &rotation = stage.rotations[v], &camera = stage.cameras[v];
