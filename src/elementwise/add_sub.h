@@ -33,6 +33,11 @@ struct SumMember {
     static constexpr bool hasShortWay = !isArray;
     static bool isShort(const Arguments &arguments);
     static void runShort(const Arguments &arguments);
+    static constexpr bool hasDenseWay = hasShortWay && layout == Layout::Strided &&
+                                        operands[0].shape != Shape::Transposed &&
+                                        operands[1].shape != Shape::Transposed;
+    static bool isDense(const Arguments &arguments);
+    static LxpStatus runDense(const Arguments &arguments);
     static LxpStatus run(const Arguments &arguments);
 };
 

@@ -72,6 +72,23 @@ template <class Op, Code operands, class T, Layout memory>
 }
 
 template <class Op, Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline bool SumMember<Op, operands, T, memory>::isDense(const Arguments &arguments) {
+    const auto &[first, second, destination, size, number] = arguments.parts;
+    const int width = size.width();
+    const int height = size.height();
+    return !arguments.violates(Check::Pointers) && isWithin(width, mostSmallElements) &&
+           isWithin(height, mostSmallElements) && width * height <= mostSmallElements &&
+           (first.gaps(width) | second.gaps(width) | destination.gaps(width)) == 0;
+}
+
+template <class Op, Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline LxpStatus SumMember<Op, operands, T, memory>::runDense(const Arguments &arguments) {
+    const auto &[first, second, destination, size, number] = arguments.parts;
+    return runDenseObject(Operation(), size.width() * size.height(), destination.object().first, first.object().lead(),
+                          second.object().lead());
+}
+
+template <class Op, Code operands, class T, Layout memory>
 LxpStatus SumMember<Op, operands, T, memory>::run(const Arguments &arguments) {
     if (const LxpStatus status = firstFailure<rowOf<SumMember, detail::sum::orders>>(arguments);
         status != lxpStatusOk) {

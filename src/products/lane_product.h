@@ -27,30 +27,45 @@ public:
 
     // All objects but the last ones that do not fill the lanes; returns their number.
     static std::ptrdiff_t run(const MatrixProduct<T> &p, std::ptrdiff_t count) {
-        const bool isDense = p.b.step[2] == static_cast<std::ptrdiff_t>(Order * sizeof(T));
+        const bool isDense = touches(p.a, 0, vectorSize) && touches(p.dst, 0, vectorSize) &&
+                             touches(p.b, 2, vectorSize) && touches(p.b, 0, Order * vectorSize);
         return isDense ? overGroups<true>(p, count) : overGroups<false>(p, count);
     }
 
 private:
+    static constexpr std::ptrdiff_t vectorSize = Order * sizeof(T);
     static constexpr int lastPiece = Order % 4 == 0 ? 4 : Order % 4; // of an object's elements, taken by fours
 
     using L = Lanes<T, lanes>;
     using Pointers = std::array<const T *, lanes>;
     using Elements = std::array<L, Order>;
 
+    template <class Element>
+    static bool touches(const Addresses<Element> &operand, int loop, std::ptrdiff_t size) {
+        return operand.pointerStep[loop] == 0 && operand.step[loop] == size;
+    }
+
+    // The objects of the lanes. Where nothing has gaps the compiler knows all distances.
+    template <bool dense, class Element>
+    [[gnu::always_inline]] static std::array<Element *, lanes> pointersTo(const Addresses<Element> &operand,
+                                                                          std::ptrdiff_t object, std::ptrdiff_t size) {
+        std::array<Element *, lanes> pointers;
+        Element *first = operand.at(object, 0, 0);
+#pragma GCC unroll 8
+        for (int lane = 0; lane < lanes; ++lane) {
+            pointers[lane] = dense ? shifted(first, lane * size) : operand.at(object + lane, 0, 0);
+        }
+        return pointers;
+    }
+
     template <bool dense>
     static std::ptrdiff_t overGroups(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
         const MatrixProduct<T> p = shared;
-        const std::ptrdiff_t columnStep = p.b.step[2];
+        const std::ptrdiff_t columnStep = dense ? vectorSize : p.b.step[2];
         std::ptrdiff_t object = 0;
         for (; object + lanes <= count; object += lanes) {
-            Pointers a;
-            Pointers b;
-            for (int lane = 0; lane < lanes; ++lane) {
-                a[lane] = p.a.at(object + lane, 0, 0);
-                b[lane] = p.b.at(object + lane, 0, 0);
-            }
-            const Elements factors = load<false, true>(a);
+            Pointers b = pointersTo<dense>(p.b, object, Order * vectorSize);
+            const Elements factors = load<false, true>(pointersTo<dense>(p.a, object, vectorSize));
             Elements results;
 #pragma GCC unroll 8
             for (int j = 0; j < Order; ++j) {
@@ -61,11 +76,12 @@ private:
                     sum = sum + factors[k] * column[k];
                 }
                 results[j] = sum;
+#pragma GCC unroll 8
                 for (int lane = 0; lane < lanes; ++lane) {
                     b[lane] = shifted(b[lane], columnStep);
                 }
             }
-            store(results, p.dst, object);
+            store<dense>(results, pointersTo<dense>(p.dst, object, vectorSize));
         }
         return object;
     }
@@ -105,29 +121,37 @@ private:
         return rows;
     }
 
-    [[gnu::always_inline]] static void store(const Elements &results, const Addresses<T> &dst, std::ptrdiff_t object) {
+    // Vectors without gaps are written in ascending order: what is written behind one the next one replaces.
+    template <bool dense>
+    [[gnu::always_inline]] static void store(const Elements &results, const std::array<T *, lanes> &to) {
+        constexpr int blocks = (Order + 3) / 4;
+        std::array<std::array<L, 4>, blocks> rows = {};
 #pragma GCC unroll 2
-        for (int j = 0; j < Order; j += 4) {
-            std::array<L, 4> rows = {};
-            std::copy_n(results.begin() + j, std::min(4, Order - j), rows.begin());
-            turn(rows);
-#pragma GCC unroll 4
-            for (int i = 0; i < 4; ++i) {
-                if constexpr (lanes == 8) {
-                    storePiece(dst.at(object + i, 0, j), j, lowHalf(rows[i]));
-                    storePiece(dst.at(object + i + 4, 0, j), j, highHalf(rows[i]));
+        for (int piece = 0; piece < blocks; ++piece) {
+            std::copy_n(results.begin() + 4 * piece, std::min(4, Order - 4 * piece), rows[piece].begin());
+            turn(rows[piece]);
+        }
+#pragma GCC unroll 8
+        for (int lane = 0; lane < lanes; ++lane) {
+#pragma GCC unroll 2
+            for (int piece = 0; piece < blocks; ++piece) {
+                const bool isWhole = 4 * piece + 4 <= Order || (dense && lane + 1 < lanes);
+                const Lanes<T, 4> four = ofLane(rows[piece], lane);
+                if (isWhole) {
+                    four.store(to[lane] + 4 * piece);
                 } else {
-                    storePiece(dst.at(object + i, 0, j), j, rows[i]);
+                    storeFirst<lastPiece>(to[lane] + 4 * piece, four);
                 }
             }
         }
     }
 
-    [[gnu::always_inline]] static void storePiece(T *to, int j, Lanes<T, 4> piece) {
-        if (j + 4 <= Order) {
-            piece.store(to);
+    // The row that belongs to an object.
+    [[gnu::always_inline]] static Lanes<T, 4> ofLane(const std::array<L, 4> &rows, int lane) {
+        if constexpr (lanes == 8) {
+            return lane < 4 ? lowHalf(rows[lane]) : highHalf(rows[lane - 4]);
         } else {
-            storeFirst<lastPiece>(to, piece);
+            return rows[lane];
         }
     }
 

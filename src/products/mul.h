@@ -44,6 +44,11 @@ public:
     constexpr const auto &destination() const { return std::get<4>(list.parts); }
     constexpr int count() const { return std::get<5>(list.parts).value; }
 
+    // Whether all sizes, but the one column of a vector, are the same.
+    constexpr bool isSquare() const {
+        return ((rows() ^ inner()) | (secondInner() ^ inner()) | (hasVector ? 0 : columns() ^ inner())) == 0;
+    }
+
     // The result's rows and columns, and the number of products that an element of it is the sum of.
     constexpr int rows() const { return firstIsTransposed ? firstSize().width() : firstSize().height(); }
     constexpr int inner() const { return firstIsTransposed ? firstSize().height() : firstSize().width(); }
@@ -72,6 +77,10 @@ struct ProductMember {
     static constexpr bool hasShortWay = !operands.hasArray();
     static bool isShort(const Arguments &arguments);
     static void runShort(const Arguments &arguments);
+    static constexpr bool hasDenseWay = hasShortWay && layout == Layout::Strided &&
+                                        operands[0].shape == Shape::Matrix && operands[1].shape != Shape::Transposed;
+    static bool isDense(const Arguments &arguments);
+    static LxpStatus runDense(const Arguments &arguments);
     static LxpStatus run(const Arguments &arguments);
 };
 

@@ -66,6 +66,38 @@ template <Code operands, class T, Layout memory>
 }
 
 template <Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline bool ProductMember<operands, T, memory>::isDense(const Arguments &arguments) {
+    const int order = arguments.inner();
+    return !arguments.violates(Check::Pointers) && arguments.isSquare() && isUnrolledOrder(order) &&
+           (arguments.firstOperand().gaps(order) | arguments.secondOperand().gaps(order) |
+            arguments.destination().gaps(order)) == 0;
+}
+
+template <Code operands, class T, Layout memory>
+[[gnu::always_inline]] inline LxpStatus ProductMember<operands, T, memory>::runDense(const Arguments &arguments) {
+    const T *first = arguments.firstOperand().object().first;
+    const T *second = arguments.secondOperand().object().first;
+    T *dst = arguments.destination().object().first;
+    const auto run = [=]<int Order>() __attribute__((always_inline)) {
+        if constexpr (operands[1].shape == Shape::Vector) {
+            return multiplyDenseVector<Order>(first, second, dst);
+        } else {
+            return multiplyDense<Order>(first, second, dst);
+        }
+    };
+    switch (arguments.inner()) {
+    case 3:
+        return run.template operator()<3>();
+    case 4:
+        return run.template operator()<4>();
+    case 5:
+        return run.template operator()<5>();
+    default:
+        return run.template operator()<6>();
+    }
+}
+
+template <Code operands, class T, Layout memory>
 LxpStatus ProductMember<operands, T, memory>::run(const Arguments &arguments) {
     if (const LxpStatus status = firstFailure<detail::mul::order>(arguments); status != lxpStatusOk) {
         return status;

@@ -19,6 +19,11 @@ constexpr bool isShortProduct(int rows, int inner, int columns) {
     return std::max({rows, inner, columns}) <= 6;
 }
 
+// Orders of square matrices that have loops of their own.
+constexpr bool isUnrolledOrder(int order) {
+    return isWithin(order - 2, 4);
+}
+
 namespace detail {
 
 // The rows of the second operand. Columns that touch, as those of a matrix that is read transposed, are turned in
@@ -69,6 +74,33 @@ template <int Order, class A, class B, class D, class... Addend>
 }
 
 } // namespace detail
+
+// A matrix without gaps, of which the compiler knows all distances.
+template <int Order, class E>
+[[gnu::always_inline]] inline StridedObject<E> denseMatrix(E *first) {
+    return {first, Order * sizeof(E), sizeof(E)};
+}
+
+// Square matrices of an unrolled order without gaps, and such a matrix and a vector.
+
+template <int Order, class T>
+[[gnu::noinline]] LxpStatus multiplyDense(const T *a, const T *b, T *dst) {
+    if constexpr (Order == 4 && std::is_same_v<T, float>) {
+        constexpr std::ptrdiff_t row = Order * sizeof(T);
+        multiplyRowsOfOrder4(a, row, rowsOfOrder4(b, row), dst, row);
+    } else {
+        detail::chooseSquare<Order>(Order, denseMatrix<Order>(a), denseMatrix<Order>(b), denseMatrix<Order>(dst));
+    }
+    return lxpStatusOk;
+}
+
+// As a row: the vector times the transposed matrix.
+template <int Order, class T>
+[[gnu::noinline]] LxpStatus multiplyDenseVector(const T *matrix, const T *vector, T *dst) {
+    detail::chooseSquare<Order>(1, denseMatrix<Order>(vector), denseMatrix<Order>(matrix).transposed(),
+                                denseMatrix<Order>(dst));
+    return lxpStatusOk;
+}
 
 // dst = a * b + addend, with one addend or none.
 template <class A, class B, class D, class... Addend>

@@ -9,6 +9,7 @@
 // next stretch goes on from them. The bits are those of one long sum.
 
 #include "products/product.h"
+#include "products/readers.h"
 #include "runtime/lanes.h"
 
 #include <algorithm>
@@ -19,8 +20,8 @@ namespace lxpm {
 
 template <class T>
 class PanelProduct {
+    static constexpr int width = 2 * fullLanes<T>; // of a block, in elements
     static constexpr int blockRows = 4;
-    static constexpr int width = 2 * fullLanes<T>;
     static constexpr std::ptrdiff_t depth = 1024 / width; // of the inner dimension at a time
 
     using L = Lanes<T, fullLanes<T>>;
@@ -46,6 +47,8 @@ private:
         column = first;
         columnsUsed = number;
         const bool copies = !p.b.rowsTouch() || columnsUsed < width;
+        const bool isPlain =
+            p.inner <= depth && columnsUsed == width && p.a.movesByBytes() && p.dst.rowsTouch() && !p.addend;
         for (inner = 0; inner < p.inner; inner += depth) {
             length = std::min(depth, p.inner - inner);
             for (object = 0; object < count; ++object) {
@@ -55,7 +58,11 @@ private:
                 } else if (object == 0 || !p.b.isSingle()) {
                     copyPanel();
                 }
-                overRows();
+                if (isPlain) {
+                    overPlainRows();
+                } else {
+                    overRows();
+                }
             }
         }
     }
@@ -64,12 +71,14 @@ private:
     void copyPanel() {
         panel = copiedPanel;
         panelStep = bytes(width);
+        const bool isTurned = columnsUsed == width && p.b.transposed().rowsTouch() && p.b.movesByBytes();
+        const std::ptrdiff_t turned = isTurned ? turnIntoPanel() : 0;
         for (std::ptrdiff_t j = 0; j < width; ++j) {
             const std::ptrdiff_t from = column + std::min(j, columnsUsed - 1);
             if (p.b.movesByBytes()) {
                 const T *element = p.b.at(object, inner, from);
                 const std::ptrdiff_t step = p.b.step[1];
-                for (std::ptrdiff_t k = 0; k < length; ++k) {
+                for (std::ptrdiff_t k = turned; k < length; ++k) {
                     copiedPanel[k * width + j] = *shifted(element, k * step);
                 }
             } else {
@@ -77,6 +86,70 @@ private:
                     copiedPanel[k * width + j] = *p.b.at(object, inner + k, from);
                 }
             }
+        }
+    }
+
+    // Columns that touch, four elements of each at a time. Returns how many of the elements there were.
+    std::ptrdiff_t turnIntoPanel() {
+        const T *first = p.b.at(object, inner, column);
+        const std::ptrdiff_t columnStep = p.b.step[2];
+        const std::ptrdiff_t whole = length / 4 * 4;
+        for (std::ptrdiff_t k = 0; k < whole; k += 4) {
+#pragma GCC unroll 2
+            for (std::ptrdiff_t j = 0; j < width; j += fullLanes<T>) {
+                std::array<const T *, fullLanes<T>> from;
+#pragma GCC unroll 8
+                for (int lane = 0; lane < fullLanes<T>; ++lane) {
+                    from[lane] = shifted(first, (j + lane) * columnStep) + k;
+                }
+                const GroupColumns<T> rows = columnsOf<4, true>(from);
+#pragma GCC unroll 4
+                for (int i = 0; i < 4; ++i) {
+                    rows[i].store(copiedPanel + (k + i) * width + j);
+                }
+            }
+        }
+        return whole;
+    }
+
+    // Where sums neither go on nor pass through copies they never leave their registers.
+    void overPlainRows() const {
+        const T *a = p.a.at(object, 0, 0);
+        T *dst = p.dst.at(object, 0, column);
+        std::ptrdiff_t row = 0;
+        for (; row + blockRows <= p.rows; row += blockRows) {
+            plainRows<blockRows>(shifted(a, row * p.a.step[1]), shifted(dst, row * p.dst.step[1]));
+        }
+        for (; row < p.rows; ++row) {
+            plainRows<1>(shifted(a, row * p.a.step[1]), shifted(dst, row * p.dst.step[1]));
+        }
+    }
+
+    template <int Rows>
+    [[gnu::always_inline]] void plainRows(const T *a, T *dst) const {
+        const std::ptrdiff_t aRow = p.a.step[1];
+        const std::ptrdiff_t aElement = p.a.step[2];
+        const std::ptrdiff_t bStep = panelStep;
+        const std::ptrdiff_t dstRow = p.dst.step[1];
+        const T *b = panel;
+        L low[Rows] = {};
+        L high[Rows] = {};
+        for (std::ptrdiff_t k = length; k > 0; --k) {
+            const L b0 = L::load(b);
+            const L b1 = L::load(b + fullLanes<T>);
+#pragma GCC unroll 4
+            for (int i = 0; i < Rows; ++i) {
+                const L factor = broadcast(shifted(a, i * aRow));
+                low[i] = low[i] + factor * b0;
+                high[i] = high[i] + factor * b1;
+            }
+            a = shifted(a, aElement);
+            b = shifted(b, bStep);
+        }
+#pragma GCC unroll 4
+        for (int i = 0; i < Rows; ++i) {
+            low[i].store(shifted(dst, i * dstRow));
+            high[i].store(shifted(dst, i * dstRow) + fullLanes<T>);
         }
     }
 

@@ -19,44 +19,51 @@
 namespace lxpm {
 
 // The unrolled kernel that fits what is given.
-template <class T, int Order>
-void chooseUnrolled(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+template <Walking walking, class T, int Order>
+void chooseUnrolledWalking(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     const bool singleB = p.b.isSingle();
     if (p.rows == 1 && p.addend) {
-        return singleB ? multiplyUnrolled<T, Order, 1, Given{true, false, true}>(p, count)
-                       : multiplyUnrolled<T, Order, 1, Given{false, false, true}>(p, count);
+        return singleB ? multiplyUnrolled<walking, T, Order, 1, Given{true, false, true}>(p, count)
+                       : multiplyUnrolled<walking, T, Order, 1, Given{false, false, true}>(p, count);
     }
     if (p.rows == 1) {
-        return singleB ? multiplyUnrolled<T, Order, 1, Given{true, false, false}>(p, count)
-                       : multiplyUnrolled<T, Order, 1, Given{false, false, false}>(p, count);
+        return singleB ? multiplyUnrolled<walking, T, Order, 1, Given{true, false, false}>(p, count)
+                       : multiplyUnrolled<walking, T, Order, 1, Given{false, false, false}>(p, count);
     }
 
     constexpr std::ptrdiff_t touching = Order * sizeof(T);
     const bool denseRows = p.dst.step[1] == touching;
     if constexpr (std::is_same_v<T, float> && Order == 4) {
         if (p.a.rowsTouch()) {
-            return singleB ? multiplyOrder4<true>(p, count) : multiplyOrder4<false>(p, count);
+            return singleB ? multiplyOrder4<walking, true>(p, count) : multiplyOrder4<walking, false>(p, count);
         }
     }
     if constexpr (std::is_same_v<T, float> && Order == 3) {
         const bool isDense = p.a.rowsTouch() && p.a.step[1] == touching && (singleB || p.b.step[1] == touching);
         if (isDense && count > 1) {
-            denseRows
-                ? singleB ? multiplyPairsOfOrder3<true, true>(p, count) : multiplyPairsOfOrder3<false, true>(p, count)
-            : singleB ? multiplyPairsOfOrder3<true, false>(p, count)
-                      : multiplyPairsOfOrder3<false, false>(p, count);
+            denseRows ? singleB ? multiplyPairsOfOrder3<walking, true, true>(p, count)
+                                : multiplyPairsOfOrder3<walking, false, true>(p, count)
+            : singleB ? multiplyPairsOfOrder3<walking, true, false>(p, count)
+                      : multiplyPairsOfOrder3<walking, false, false>(p, count);
             if (count % 2 != 0) {
-                multiplyUnrolled<T, Order, Order, Given{false, false, false}>(p.from(count - 1), 1);
+                multiplyUnrolled<walking, T, Order, Order, Given{false, false, false}>(p.from(count - 1), 1);
             }
             return;
         }
     }
     if (denseRows) {
-        return singleB ? multiplyUnrolled<T, Order, Order, Given{true, true, false}>(p, count)
-                       : multiplyUnrolled<T, Order, Order, Given{false, true, false}>(p, count);
+        return singleB ? multiplyUnrolled<walking, T, Order, Order, Given{true, true, false}>(p, count)
+                       : multiplyUnrolled<walking, T, Order, Order, Given{false, true, false}>(p, count);
     }
-    return singleB ? multiplyUnrolled<T, Order, Order, Given{true, false, false}>(p, count)
-                   : multiplyUnrolled<T, Order, Order, Given{false, false, false}>(p, count);
+    return singleB ? multiplyUnrolled<walking, T, Order, Order, Given{true, false, false}>(p, count)
+                   : multiplyUnrolled<walking, T, Order, Order, Given{false, false, false}>(p, count);
+}
+
+template <class T, int Order>
+void chooseUnrolled(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+    const bool byBytes = p.a.pointerStep[0] == 0 && p.b.pointerStep[0] == 0 && p.dst.pointerStep[0] == 0;
+    return byBytes ? chooseUnrolledWalking<Walking::ByBytes, T, Order>(p, count)
+                   : chooseUnrolledWalking<Walking::ThroughPointers, T, Order>(p, count);
 }
 
 // Objects of an unrolled order in any layout: a few at a time, copied where the kernel cannot read or write them.
@@ -103,6 +110,27 @@ void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     }
 }
 
+// Rows that are multiplied with the same matrix are those of one product.
+template <class T>
+void multiplyByPanels(MatrixProduct<T> p, std::ptrdiff_t count) {
+    const auto movesByBytes = [](const auto &operand) { return operand.pointerStep[0] == 0; };
+    if (p.rows == 1 && p.b.isSingle() && movesByBytes(p.a) && movesByBytes(p.dst) &&
+        (!p.addend || movesByBytes(*p.addend))) {
+        const auto asRows = [](auto &operand) {
+            operand.step[1] = operand.step[0];
+            operand.pointerStep[1] = 0;
+        };
+        asRows(p.a);
+        asRows(p.dst);
+        if (p.addend) {
+            asRows(*p.addend);
+        }
+        p.rows = count;
+        count = 1;
+    }
+    PanelProduct<T>::run(p, count);
+}
+
 // The objects of one thread.
 template <class T>
 LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
@@ -113,7 +141,7 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         } else {
             const std::ptrdiff_t done = GroupProduct<T>::isBetter(p, count) ? GroupProduct<T>::run(p, count) : 0;
             if (done < count) {
-                PanelProduct<T>::run(p.from(done), count - done);
+                multiplyByPanels(p.from(done), count - done);
             }
         }
         return lxpStatusOk;

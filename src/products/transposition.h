@@ -8,10 +8,12 @@
 // whose rows overlap is left to the loops that write each element once, in the order of its rows.
 
 #include "products/readers.h"
+#include "runtime/object_walk.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
+#include <lxpcore.h>
 
 namespace lxpm {
 
@@ -50,6 +52,7 @@ private:
     static constexpr std::ptrdiff_t side = 4;            // of a small block
     static constexpr std::ptrdiff_t rows = groupSize<T>; // of a block; its columns are four
     static constexpr std::ptrdiff_t line = 64 / size;    // elements of a cache line
+    static constexpr std::ptrdiff_t tile = 256;          // rows and columns
 
     static Kernel choose(const Matrices &m) {
         if (m.objects > 1 && objectsTouch(m.src) && objectsTouch(m.dst)) {
@@ -82,8 +85,16 @@ private:
         case 8:
             return byOrder<8, false>;
         default:
-            return m.height < rows ? bySmallBlocks : byBlocks;
+            return m.height < rows ? bySmallBlocks : isLarge(m) ? byTiles : byBlocks;
         }
+    }
+
+    // Whether a pair of matrices is too large for one thread's share of the caches.
+    static bool isLarge(const Matrices &m) {
+        constexpr int shares = 32;
+        int largestCache = 0;
+        lxpGetMaxCacheSizeB(&largestCache); // 0: unknown
+        return 2 * m.height * m.width * size > largestCache / shares;
     }
 
     template <class Element>
@@ -93,8 +104,19 @@ private:
 
     template <class Function>
     [[gnu::always_inline]] static void forEachPair(const Matrices &m, const Function &function) {
+        const bool byBytes = m.src.pointerStep[0] == 0 && m.dst.pointerStep[0] == 0;
+        byBytes ? forEachPairWalking<Walking::ByBytes>(m, function)
+                : forEachPairWalking<Walking::ThroughPointers>(m, function);
+    }
+
+    template <Walking walking, class Function>
+    [[gnu::always_inline]] static void forEachPairWalking(const Matrices &m, const Function &function) {
+        ObjectWalk<const T, walking> source(m.src);
+        ObjectWalk<T, walking> destination(m.dst);
         for (std::ptrdiff_t object = 0; object < m.objects; ++object) {
-            function(Pair{m.src.at(object, 0, 0), m.src.step[1], m.dst.at(object, 0, 0), m.dst.step[1]});
+            function(Pair{source.object(), m.src.step[1], destination.object(), m.dst.step[1]});
+            source.next();
+            destination.next();
         }
     }
 
@@ -203,24 +225,52 @@ private:
             });
     }
 
-    // A strip of columns as wide as a cache line at a time, so that each line of the source is needed once. The rows
-    // of large matrices are too far apart for the processor to see what comes next.
     static void byBlocks(const Matrices &shared) {
         const Matrices m = shared;
         forEachPair(
             m, [&](const Pair &pair) __attribute__((always_inline)) {
-                for (std::ptrdiff_t strip = 0; strip < m.width; strip += line) {
-                    const std::ptrdiff_t first = std::min(strip, m.width - side);
-                    const std::ptrdiff_t columns = std::min(line, m.width - first);
-                    forEachStep(
-                        m.height, rows, [&](std::ptrdiff_t row) __attribute__((always_inline)) {
-                            forEachStep(
-                                columns, side, [&](std::ptrdiff_t column) __attribute__((always_inline)) {
-                                    block(pair, row, first + column);
-                                });
-                        });
-                }
+                area(pair, {0, m.height}, {0, m.width});
             });
+    }
+
+    // Every row of a large matrix stands in a page of its own, and the processor remembers the places of so many pages
+    // only: what is read and written at a time is limited in both directions.
+    static void byTiles(const Matrices &shared) {
+        const Matrices m = shared;
+        forEachPair(m, [&](const Pair &pair) {
+            forEachPiece(m.height, tile, rows, [&](Piece ofRows) {
+                forEachPiece(m.width, tile, side, [&](Piece ofColumns) { area(pair, ofRows, ofColumns); });
+            });
+        });
+    }
+
+    struct Piece {
+        std::ptrdiff_t first;
+        std::ptrdiff_t length;
+    };
+
+    // A strip of columns as wide as a cache line at a time, so that each line of the source is needed once.
+    [[gnu::always_inline]] static void area(const Pair &pair, Piece ofRows, Piece ofColumns) {
+        forEachPiece(
+            ofColumns.length, line, side, [&](Piece strip) __attribute__((always_inline)) {
+                forEachStep(
+                    ofRows.length, rows, [&](std::ptrdiff_t row) __attribute__((always_inline)) {
+                        forEachStep(
+                            strip.length, side, [&](std::ptrdiff_t column) __attribute__((always_inline)) {
+                                block(pair, ofRows.first + row, ofColumns.first + strip.first + column);
+                            });
+                    });
+            });
+    }
+
+    // Calls f with pieces of n that have the given length; the last one is shorter, but for the least length.
+    template <class F>
+    [[gnu::always_inline]] static void forEachPiece(std::ptrdiff_t n, std::ptrdiff_t length, std::ptrdiff_t least,
+                                                    const F &f) {
+        for (std::ptrdiff_t piece = 0; piece < n; piece += length) {
+            const std::ptrdiff_t first = std::min(piece, n - least);
+            f(Piece{first, std::min(length, n - first)});
+        }
     }
 
     // Elsewhere.

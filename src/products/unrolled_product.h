@@ -9,6 +9,7 @@
 
 #include "products/product.h"
 #include "runtime/lanes.h"
+#include "runtime/object_walk.h"
 #include "runtime/one_object.h"
 
 #include <array>
@@ -156,7 +157,7 @@ template <int Rows, bool denseRows, class Row, std::size_t Order, class A, class
     }
 }
 
-template <class T, int Order, int Rows, Given given>
+template <Walking walking, class T, int Order, int Rows, Given given>
 void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
     const MatrixProduct<T> p = shared; // a copy that no store below can reach
     const std::ptrdiff_t aRow = p.a.step[1];
@@ -166,70 +167,84 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
 
     using Row = ElementRow<T, Order>;
     std::array<Row, Order> b;
-    const auto loadB = [&](std::ptrdiff_t object) __attribute__((always_inline)) {
-        const T *first = p.b.at(object, 0, 0);
+    const auto loadB = [&](const T *first) __attribute__((always_inline)) {
 #pragma GCC unroll 8
         for (int k = 0; k < Order; ++k) {
             b[k] = Row::load(shifted(first, k * bRow));
         }
     };
+    ObjectWalk<const T, walking> walkA(p.a);
+    ObjectWalk<const T, walking> walkB(p.b);
+    ObjectWalk<T, walking> walkDst(p.dst);
     if constexpr (given.singleB) {
-        loadB(0);
+        loadB(walkB.object());
     }
     for (std::ptrdiff_t object = 0; object < count; ++object) {
         if constexpr (!given.singleB) {
-            loadB(object);
+            loadB(walkB.object());
+            walkB.next();
         }
-        const StridedObject<const T> a = {p.a.at(object, 0, 0), aRow, aElement};
-        const TouchingObject<T> dst({p.dst.at(object, 0, 0), dstRow, sizeof(T)});
+        const StridedObject<const T> a = {walkA.object(), aRow, aElement};
+        const TouchingObject<T> dst({walkDst.object(), dstRow, sizeof(T)});
         if constexpr (given.addend) {
             multiplyRows<Rows, given.denseRows>(
                 a, b, dst, TouchingObject<const T>({p.addend->at(object, 0, 0), p.addend->step[1], sizeof(T)}));
         } else {
             multiplyRows<Rows, given.denseRows>(a, b, dst);
         }
+        walkA.next();
+        walkDst.next();
     }
 }
 
 // Two rows of the result in a register.
 
-// The first operand's rows touch inside.
-template <bool singleB>
+// Each row of the second operand in both halves.
+[[gnu::always_inline]] inline std::array<Lanes<float, 8>, 4> rowsOfOrder4(const float *b, std::ptrdiff_t bRow) {
+    return {bothHalves(b), bothHalves(shifted(b, bRow)), bothHalves(shifted(b, 2 * bRow)),
+            bothHalves(shifted(b, 3 * bRow))};
+}
+
+// The elements of rows touch.
+[[gnu::always_inline]] inline void multiplyRowsOfOrder4(const float *a, std::ptrdiff_t aRow,
+                                                        const std::array<Lanes<float, 8>, 4> &b, float *dst,
+                                                        std::ptrdiff_t dstRow) {
+#pragma GCC unroll 2
+    for (int i = 0; i < 4; i += 2) {
+        const Lanes<float, 8> rows = joined(Lanes<float, 4>::load(a), Lanes<float, 4>::load(shifted(a, aRow)));
+        Lanes<float, 8> sum = {};
+        sum = sum + chosenInHalves<0, 0, 0, 0>(rows) * b[0];
+        sum = sum + chosenInHalves<1, 1, 1, 1>(rows) * b[1];
+        sum = sum + chosenInHalves<2, 2, 2, 2>(rows) * b[2];
+        sum = sum + chosenInHalves<3, 3, 3, 3>(rows) * b[3];
+        lowHalf(sum).store(dst);
+        highHalf(sum).store(shifted(dst, dstRow));
+        a = shifted(a, 2 * aRow);
+        dst = shifted(dst, 2 * dstRow);
+    }
+}
+
+template <Walking walking, bool singleB>
 void multiplyOrder4(const MatrixProduct<float> &shared, std::ptrdiff_t count) {
     const MatrixProduct<float> p = shared;
     const std::ptrdiff_t aRow = p.a.step[1];
     const std::ptrdiff_t bRow = p.b.step[1];
     const std::ptrdiff_t dstRow = p.dst.step[1];
-    Lanes<float, 8> b[4];
-    const auto loadB = [&](std::ptrdiff_t object) __attribute__((always_inline)) {
-        const float *first = p.b.at(object, 0, 0);
-#pragma GCC unroll 4
-        for (int k = 0; k < 4; ++k) {
-            b[k] = bothHalves(shifted(first, k * bRow));
-        }
-    };
+    ObjectWalk<const float, walking> a(p.a);
+    ObjectWalk<const float, walking> b(p.b);
+    ObjectWalk<float, walking> dst(p.dst);
+    std::array<Lanes<float, 8>, 4> rows;
     if constexpr (singleB) {
-        loadB(0);
+        rows = rowsOfOrder4(b.object(), bRow);
     }
     for (std::ptrdiff_t object = 0; object < count; ++object) {
         if constexpr (!singleB) {
-            loadB(object);
+            rows = rowsOfOrder4(b.object(), bRow);
+            b.next();
         }
-        const float *a = p.a.at(object, 0, 0);
-        float *dst = p.dst.at(object, 0, 0);
-#pragma GCC unroll 2
-        for (int i = 0; i < 4; i += 2) {
-            const Lanes<float, 8> rows = joined(Lanes<float, 4>::load(a), Lanes<float, 4>::load(shifted(a, aRow)));
-            Lanes<float, 8> sum = {};
-            sum = sum + chosenInHalves<0, 0, 0, 0>(rows) * b[0];
-            sum = sum + chosenInHalves<1, 1, 1, 1>(rows) * b[1];
-            sum = sum + chosenInHalves<2, 2, 2, 2>(rows) * b[2];
-            sum = sum + chosenInHalves<3, 3, 3, 3>(rows) * b[3];
-            lowHalf(sum).store(dst);
-            highHalf(sum).store(shifted(dst, dstRow));
-            a = shifted(a, 2 * aRow);
-            dst = shifted(dst, 2 * dstRow);
-        }
+        multiplyRowsOfOrder4(a.object(), aRow, rows, dst.object(), dstRow);
+        a.next();
+        dst.next();
     }
 }
 
@@ -250,7 +265,7 @@ struct Order3 {
 
 // The rows of two objects side by side. The first operand and, unless it is single, the second have no gaps; an object
 // that is left over is the caller's.
-template <bool singleB, bool denseRows>
+template <Walking walking, bool singleB, bool denseRows>
 void multiplyPairsOfOrder3(const MatrixProduct<float> &shared, std::ptrdiff_t count) {
     const MatrixProduct<float> p = shared;
     const std::ptrdiff_t dstRow = p.dst.step[1];
@@ -268,17 +283,28 @@ void multiplyPairsOfOrder3(const MatrixProduct<float> &shared, std::ptrdiff_t co
             storeFirst<3>(dst, row);
         }
     };
+    ObjectWalk<const float, walking> walkA(p.a);
+    ObjectWalk<const float, walking> walkB(p.b);
+    ObjectWalk<float, walking> walkDst(p.dst);
     for (std::ptrdiff_t object = 0; object + 2 <= count; object += 2) {
         if constexpr (!singleB) {
             // The fourth lane does what the third does: it can raise no flag of its own.
-            b = Order3::load(p.b.at(object, 0, 0), p.b.at(object + 1, 0, 0));
+            const float *ofFirst = walkB.object();
+            walkB.next();
+            b = Order3::load(ofFirst, walkB.object());
+            walkB.next();
             b[0] = chosenInHalves<0, 1, 2, 2>(b[0]);
             b[1] = chosenInHalves<0, 1, 2, 2>(b[1]);
             b[2] = chosenInHalves<1, 2, 3, 3>(b[2]);
         }
-        const std::array<Lanes<float, 8>, 3> a = Order3::load(p.a.at(object, 0, 0), p.a.at(object + 1, 0, 0));
-        float *first = p.dst.at(object, 0, 0);
-        float *second = p.dst.at(object + 1, 0, 0);
+        const float *ofFirst = walkA.object();
+        walkA.next();
+        const std::array<Lanes<float, 8>, 3> a = Order3::load(ofFirst, walkA.object());
+        walkA.next();
+        float *first = walkDst.object();
+        walkDst.next();
+        float *second = walkDst.object();
+        walkDst.next();
 #pragma GCC unroll 2
         for (int i = 0; i < 2; ++i) {
             Lanes<float, 8> sum = {};

@@ -8,6 +8,8 @@
 #include "runtime/addresses.h"
 #include "runtime/runs.h"
 
+#include <lxpm/types.h>
+
 #include <cstddef>
 #include <type_traits>
 
@@ -28,6 +30,7 @@ struct StridedObject {
     bool rowsTouch() const { return columnStep == static_cast<std::ptrdiff_t>(sizeof(Element)); }
     bool isDense(std::ptrdiff_t columns) const { return rowsTouch() && rowStep == columns * columnStep; }
     Run<std::remove_const_t<Element>, Moves::Along> row(std::ptrdiff_t i) const { return {at(i, 0), columnStep}; }
+    const std::remove_const_t<Element> *lead() const { return first; }
 };
 
 // One object whose rows' elements are known to touch.
@@ -68,14 +71,36 @@ struct ConstantObject {
     static constexpr bool rowsTouch() { return true; }
     static constexpr bool isDense(std::ptrdiff_t) { return true; }
     Run<T, Moves::Nowhere> row(std::ptrdiff_t) const { return {&value, 0}; }
+    T lead() const { return value; }
 };
 
 template <class Object>
 concept MovesByBytes = !std::is_same_v<Object, PointedObject<typename Object::Element>>;
 
 // Whether an object of this size takes the short way. Larger ones gain more by a look at their memory.
+inline constexpr int mostSmallElements = 64;
+
 constexpr bool isSmall(std::ptrdiff_t rows, std::ptrdiff_t columns) {
-    return rows * columns <= 64;
+    return rows * columns <= mostSmallElements;
+}
+
+// Whether a size passes its check and is not above `most`.
+constexpr bool isWithin(int size, int most) {
+    return static_cast<unsigned>(size) - 1 < static_cast<unsigned>(most);
+}
+
+// The n elements of objects without gaps. A source is its first element's address, or a constant by value.
+template <class F, class T, class... Lead>
+[[gnu::noinline]] LxpStatus runDenseObject(F f, int n, T *dst, Lead... src) {
+    const auto run = [](const auto &lead) __attribute__((always_inline)) {
+        if constexpr (std::is_same_v<decltype(lead), const T &>) {
+            return Run<T, Moves::Nowhere>{&lead, 0};
+        } else {
+            return Run<T, Moves::Along>{lead, sizeof(T)};
+        }
+    };
+    runInRegisters(f, n, dst, run(src)...);
+    return lxpStatusOk;
 }
 
 // dst(i, j) = f(src1(i, j), ...), row by row.

@@ -172,6 +172,20 @@ public:
         }
     }
 
+    // Zero if the elements of a single object's rows, as they are stored, touch one another and so do its rows.
+    [[gnu::always_inline]] constexpr unsigned gaps([[maybe_unused]] int width) const
+        requires(!kind.array && form != Form::ElementPointers) {
+        unsigned any = 0;
+        if constexpr (hasElemStride) {
+            any |= static_cast<unsigned>(integer[elemStrideAt]) ^ unsigned(sizeof(Element));
+        }
+        if constexpr (hasRowStride) {
+            any |=
+                static_cast<unsigned>(integer[rowStrideAt]) ^ static_cast<unsigned>(width) * unsigned(sizeof(Element));
+        }
+        return any;
+    }
+
     // A constant by value.
     constexpr Value value() const requires(form == Form::Value) { return lead; }
 

@@ -3,6 +3,7 @@
 
 // Cases of the reductions and of Transpose that have a name of their own.
 
+#include "support/cache_size.h"
 #include "support/thread_count.h"
 
 #include <lxpm.h>
@@ -157,13 +158,28 @@ void expectLargeTransposed(int height, int width, int padding, Function transpos
     }
 }
 
+// In tiles where the caches are small or unknown, at once where they are large.
 TEST(Transposition, OfLargeMatrices) {
-    for (const auto &[height, width] : {std::pair{256, 256}, {1000, 333}, {70, 900}, {517, 1030}}) {
-        for (const int padding : {0, 1, 24}) {
-            expectLargeTransposed<float>(height, width, padding, lxpmTranspose_m_32f);
-            expectLargeTransposed<double>(height, width, padding, lxpmTranspose_m_64f);
+    for (const int cacheSize : {0, 1 << 20, std::numeric_limits<int>::max()}) {
+        const CacheSize machine(cacheSize);
+        for (const auto &[height, width] :
+             {std::pair{256, 256}, {257, 259}, {1000, 333}, {70, 900}, {517, 1030}, {8, 600}, {600, 4}}) {
+            for (const int padding : {0, 1, 24}) {
+                expectLargeTransposed<float>(height, width, padding, lxpmTranspose_m_32f);
+                expectLargeTransposed<double>(height, width, padding, lxpmTranspose_m_64f);
+            }
         }
+        EXPECT_GT(machine.questions(), 0);
     }
+}
+
+TEST(Transposition, OfSmallMatricesDoesNotAskForTheCaches) {
+    const CacheSize machine(0);
+    for (const int order : {1, 3, 4, 8}) {
+        expectLargeTransposed<float>(order, order, 0, lxpmTranspose_m_32f);
+        expectLargeTransposed<double>(order, order, 0, lxpmTranspose_m_64f);
+    }
+    EXPECT_EQ(machine.questions(), 0);
 }
 
 } // namespace

@@ -82,19 +82,22 @@ lapack_int qrSolve(int height, int width, const T *a, const T *tau, int count, T
 
 enum class Method { LU, Cholesky, QR };
 
-// Matrices by columns and their factors, prepared by a kernel's first run, which is not measured.
+// Matrices by columns and their factors, prepared by a kernel's first run, which is not measured. They are the given
+// numbers as they stand, or made fit to be solved with.
 template <class T, Method method, int height, int width>
 class Systems {
     static constexpr int area = height * width;
 
 public:
-    void prepare(const PeerOperands &operands) {
+    void prepare(const PeerOperands &operands, bool asTheyStand) {
         if (source == operands.src1 && count == operands.count) {
             return;
         }
         source = operands.src1;
         count = operands.count;
-        const std::vector<T> rows = goodMatrices<T>(source, height, width, count);
+        const auto *numbers = static_cast<const T *>(source);
+        const std::vector<T> rows = asTheyStand ? std::vector<T>(numbers, numbers + count * area)
+                                                : goodMatrices<T>(source, height, width, count);
         matrices.resize(rows.size());
         for (long k = 0; k < count; ++k) {
             for (int i = 0; i < height; ++i) {
@@ -147,14 +150,14 @@ private:
 template <class T, Method method, int height, int width>
 void runFactor(const PeerOperands &operands) {
     static Systems<T, method, height, width> systems;
-    systems.prepare(operands);
+    systems.prepare(operands, method != Method::Cholesky);
     systems.factor();
 }
 
 template <class T, Method method, int height, int width>
 void runSolve(const PeerOperands &operands) {
     static Systems<T, method, height, width> systems;
-    systems.prepare(operands);
+    systems.prepare(operands, false);
     const T *right = static_cast<const T *>(operands.src2);
     T *dst = static_cast<T *>(operands.dst);
     for (long k = 0; k < operands.count; ++k) {
@@ -170,7 +173,7 @@ template <class T, Method method, int height, int width>
 void runSolveAll(const PeerOperands &operands) {
     static Systems<T, method, height, width> systems;
     static std::vector<T> b;
-    systems.prepare(operands);
+    systems.prepare(operands, false);
     const T *right = static_cast<const T *>(operands.src2);
     T *dst = static_cast<T *>(operands.dst);
     if constexpr (height == width) {
