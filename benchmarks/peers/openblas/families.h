@@ -8,6 +8,7 @@ namespace lxpm::bench::openblas {
 
 // Each appends the kernels of a family.
 void addProducts(PeerTable &table);
+void addReductions(PeerTable &table);
 void addSolvers(PeerTable &table);
 void addEigenproblems(PeerTable &table);
 

@@ -10,6 +10,7 @@ extern "C" const lxpm::bench::PeerTable *LXPM_PEER_TABLE() {
         openblas_set_num_threads(1); // the threads are the benchmark's own
         lxpm::bench::PeerTable table;
         lxpm::bench::openblas::addProducts(table);
+        lxpm::bench::openblas::addReductions(table);
         lxpm::bench::openblas::addSolvers(table);
         lxpm::bench::openblas::addEigenproblems(table);
         return table;
