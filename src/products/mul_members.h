@@ -85,6 +85,7 @@ template <Code operands, class T, Layout memory>
             return multiplyDense<Order>(first, second, dst);
         }
     };
+    // Not withOrder: with its chain of tests GCC saves six registers at the entry, for half of a product's time.
     switch (arguments.inner()) {
     case 3:
         return run.template operator()<3>();

@@ -21,7 +21,7 @@ constexpr bool isShortProduct(int rows, int inner, int columns) {
 
 // Orders of square matrices that have loops of their own.
 constexpr bool isUnrolledOrder(int order) {
-    return isWithin(order - 2, 4);
+    return order >= 3 && order <= 6;
 }
 
 namespace detail {

@@ -89,8 +89,11 @@ private:
         }
     }
 
-    // Whether a pair of matrices is too large for one thread's share of the caches.
+    // Whether a pair of matrices is more than a tile and too large for one thread's share of the caches.
     static bool isLarge(const Matrices &m) {
+        if (m.height <= tile && m.width <= tile) {
+            return false;
+        }
         constexpr int shares = 32;
         int largestCache = 0;
         lxpGetMaxCacheSizeB(&largestCache); // 0: unknown

@@ -173,6 +173,15 @@ TEST(Products, GaxpyWithObjectPointersIsParallelEarlier) {
     EXPECT_EQ(threadCountQuestions(), 0);
 }
 
+TEST(Products, OfTheLeastSizesAreErrors) {
+    constexpr int least = std::numeric_limits<int>::min();
+    float matrix[16] = {};
+    EXPECT_EQ(lxpmMul_mm_32f(matrix, 16, 4, least, least, matrix, 16, 4, least, least, matrix, 16, 4),
+              lxpStatusSizeErr);
+    EXPECT_EQ(lxpmMul_mv_32f(matrix, 16, 4, least, least, matrix, 4, least, matrix, 4), lxpStatusSizeErr);
+    EXPECT_EQ(lxpmAdd_mm_32f(matrix, 16, 4, matrix, 16, 4, matrix, 16, 4, least, least), lxpStatusSizeErr);
+}
+
 } // namespace
 
 } // namespace lxpm::test
