@@ -13,14 +13,15 @@ namespace lxpm {
 
 namespace {
 
+// The kernel knows which processors share a cache; where a processor has several of the last level, the C library may
+// answer with all of them together.
 int largestCache() {
-    long long largest = 0;
-    for (const int level :
-         {_SC_LEVEL1_DCACHE_SIZE, _SC_LEVEL2_CACHE_SIZE, _SC_LEVEL3_CACHE_SIZE, _SC_LEVEL4_CACHE_SIZE}) {
-        largest = std::max<long long>(largest, sysconf(level));
-    }
+    long long largest = largestListedCache("");
     if (largest == 0) {
-        largest = largestListedCache("");
+        for (const int level :
+             {_SC_LEVEL1_DCACHE_SIZE, _SC_LEVEL2_CACHE_SIZE, _SC_LEVEL3_CACHE_SIZE, _SC_LEVEL4_CACHE_SIZE}) {
+            largest = std::max<long long>(largest, sysconf(level));
+        }
     }
     return static_cast<int>(std::min<long long>(largest, std::numeric_limits<int>::max()));
 }

@@ -45,19 +45,27 @@ inline LxpStatus overEach(int first, int count, const Solve &solve) {
 }
 
 // Calls wide(object) for groups of twice as many objects as there are lanes, group(object) for one of as many, and
-// solve(object) for each of those that are left over.
+// solve(object) for each where there are fewer. What no group is left for goes together with some that are computed
+// again, to the same results: a group takes hardly longer than one object.
 template <int lanes, class Wide, class Group, class Solve>
 inline LxpStatus overGroups(int first, int count, const Wide &wide, const Group &group, const Solve &solve) {
+    if (count < lanes) {
+        return overEach(first, count, solve);
+    }
     FirstStatus status;
     int object = 0;
     for (; object + 2 * lanes <= count; object += 2 * lanes) {
         status.record(wide(first + object));
     }
-    if (object + lanes <= count) {
-        status.record(group(first + object));
-        object += lanes;
+    const int left = count - object;
+    if (left > lanes && count >= 2 * lanes) {
+        status.record(wide(first + count - 2 * lanes));
+    } else if (left > 0) {
+        status.record(group(first + object - (left < lanes ? lanes - left : 0)));
+        if (left > lanes) {
+            status.record(group(first + count - lanes));
+        }
     }
-    status.record(overEach(first + object, count - object, solve));
     return status.get();
 }
 

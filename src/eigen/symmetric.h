@@ -147,101 +147,170 @@ template <class Order, class V, class Line>
     }
 }
 
+// Whether an eigenvalue has been given all the sweeps that there are for one.
+//
+// A lane that stays at its place for half as many is stopped already, and with it the group: one by one the exact
+// number is counted. Looking at the lanes once in a while takes much less than counting for each.
+template <class V>
+class SweepLimit {
+public:
+    template <class PlaceOf>
+    MaskOf<V> isReached(int, const PlaceOf &placeOf) {
+        if (++sweeps_ % (mostSweeps / 2) != 0) {
+            return everywhere<V>(false);
+        }
+        const V place = placeOf();
+        const auto stays = isEqual(place, before_);
+        before_ = place;
+        return stays;
+    }
+
+private:
+    int sweeps_ = 0;
+    V before_ = constant<V>(-1);
+};
+
+template <class V>
+requires isSingle<V>
+class SweepLimit<V> {
+public:
+    template <class PlaceOf>
+    bool isReached(int place, const PlaceOf &) {
+        if (place != place_) {
+            place_ = place;
+            sweeps_ = 0;
+        }
+        return sweeps_++ == mostSweeps;
+    }
+
+private:
+    int place_ = 0;
+    int sweeps_ = 0;
+};
+
 // The eigenvalues of the tridiagonal matrix d, e, found in ascending order of their place in d; rows of z are rotated
 // with them unless it is null. Returns where the iteration did not converge, and leaves `product`, that of the
-// eigenvalues. Such a lane of several ends the iteration for all.
+// eigenvalues. Such a lane of several, or one that takes long, ends the iteration for all.
+//
+// Each lane is at an eigenvalue of its own. What is in front of it is negligible and stays so: the first element that
+// is not says where a lane is.
 template <int most, class Order, class V, class Line>
 [[gnu::always_inline]] inline MaskOf<V> iterate(Order order, V *d, Line &&e, V *z, V &product) {
     using T = ElementOf<V>;
     const V zero = constant<V>(0);
     const V one = constant<V>(1);
     const V eps = constant<V>(epsilon<T>);
+    SweepLimit<V> limit;
     product = one;
-    for (int first = 0; first < order; ++first) {
-        for (int sweeps = 0;; ++sweeps) {
-            // The block that starts here ends in front of the first negligible element.
-            StepMasks<V, most> block;
-            auto inBlock = everywhere<V>(true);
-            V last = d[first];
-            int end = first;
-            for (; end < order - 1; ++end) {
-                inBlock = without(inBlock, isLessEqual(magnitude(constant<V>(0.5) * e[end]), eps));
-                if (none(inBlock)) {
-                    break;
-                }
-                block.set(end, inBlock);
-                last = choose(inBlock, d[end + 1], last);
-            }
-            if (end == first) {
+    int lowest = 0; // place of all lanes
+    for (;;) {
+        // A lane's block ends in front of the first negligible element behind its place.
+        StepMasks<V, most> block;
+        auto inBlock = everywhere<V>(false);
+        auto active = everywhere<V>(false);
+        V first = zero;
+        V second = zero;
+        V beside = one;
+        V last = zero;
+        int end = lowest;
+        for (int i = lowest; i < order - 1; ++i) {
+            const auto counts = without(everywhere<V>(true), isLessEqual(magnitude(constant<V>(0.5) * e[i]), eps));
+            const auto starts = without(counts, active);
+            inBlock = both(counts, either(inBlock, starts));
+            if (any(inBlock)) {
+                end = i + 1;
+            } else if (i == lowest) {
+                ++lowest;
+                continue;
+            } else if (all(active)) {
                 break;
             }
-            const auto active = block.at(first);
-            if (sweeps == mostSweeps) {
-                return active;
-            }
-
-            const V beside = e[first];
-            V g = (d[first + 1] - d[first]) / divisorWhere(active, beside + beside);
-            V r = root(one + g * g);
-            const V divisor = choose(isLess(eps, g), g + r, g - r);
-            g = last - d[first] + beside / divisorWhere(active, divisor);
-            V s = one;
-            V c = one;
-            V p = zero;
-            auto running = active;
-            for (int i = end - 1; i >= first; --i) {
-                MaskOf<V> rotating = both(block.at(i), running);
-                const V f = s * e[i];
-                const V b = c * e[i];
-                r = root(f * f + g * g);
-                const MaskOf<V> stops = both(rotating, isLessEqual(r, eps));
-                if (i + 1 < end) {
-                    // At the end of its block a lane stores a zero.
-                    e[i + 1] = choose(rotating, choose(block.at(i + 1), r, zero), e[i + 1]);
-                } else {
-                    e[i + 1] = choose(rotating, zero, e[i + 1]);
-                }
-                if (any(stops)) {
-                    d[i + 1] = choose(stops, d[i + 1] - p, d[i + 1]);
-                    e[i] = choose(stops, b, e[i]);
-                    running = without(running, stops);
-                    if (none(running)) {
-                        break;
-                    }
-                    rotating = without(rotating, stops);
-                }
-                const V length = divisorWhere(rotating, r);
-                const V sine = f / length;
-                const V cosine = g / length;
-                const V h = d[i + 1] - p;
-                const V t = (d[i] - h) * sine + (cosine + cosine) * b;
-                s = choose(rotating, sine, s);
-                c = choose(rotating, cosine, c);
-                p = choose(rotating, sine * t, p);
-                d[i + 1] = choose(rotating, h + p, d[i + 1]);
-                g = choose(rotating, cosine * t - b, g);
-                if (z != nullptr) {
-                    V *low = z + i * order;
-                    V *high = low + order;
-                    if (all(rotating)) {
-                        for (int j = 0; j < order; ++j) {
-                            const V x = high[j];
-                            high[j] = s * low[j] + c * x;
-                            low[j] = c * low[j] - s * x;
-                        }
-                    } else if (any(rotating)) {
-                        for (int j = 0; j < order; ++j) {
-                            const V x = high[j];
-                            high[j] = choose(rotating, s * low[j] + c * x, x);
-                            low[j] = choose(rotating, c * low[j] - s * x, low[j]);
-                        }
-                    }
-                }
-            }
-            d[first] = choose(running, d[first] - p, d[first]);
-            e[first] = choose(running, g, e[first]);
+            active = either(active, starts);
+            block.set(i, inBlock);
+            first = choose(starts, d[i], first);
+            second = choose(starts, d[i + 1], second);
+            beside = choose(starts, e[i], beside);
+            last = choose(inBlock, d[i + 1], last);
         }
-        product = product * d[first];
+        if (none(active)) {
+            break;
+        }
+        const auto startsAt = [&](int i) { return i == lowest ? block.at(i) : without(block.at(i), block.at(i - 1)); };
+        const auto placeOf = [&] {
+            V place = zero;
+            for (int i = lowest; i < end; ++i) {
+                place = choose(startsAt(i), constant<V>(i), place);
+            }
+            return place;
+        };
+        const auto unconverged = both(active, limit.isReached(lowest, placeOf));
+        if (any(unconverged)) {
+            return unconverged;
+        }
+
+        V g = (second - first) / divisorWhere(active, beside + beside);
+        V r = root(one + g * g);
+        const V divisor = choose(isLess(eps, g), g + r, g - r);
+        g = last - first + beside / divisorWhere(active, divisor);
+        V s = one;
+        V c = one;
+        V p = zero;
+        auto running = active;
+        for (int i = end - 1; i >= lowest; --i) {
+            MaskOf<V> rotating = both(block.at(i), running);
+            const V f = s * e[i];
+            const V b = c * e[i];
+            r = root(f * f + g * g);
+            const MaskOf<V> stops = both(rotating, isLessEqual(r, eps));
+            if (i + 1 < end) {
+                // At the end of its block a lane stores a zero.
+                e[i + 1] = choose(rotating, only(block.at(i + 1), r), e[i + 1]);
+            } else {
+                e[i + 1] = choose(rotating, zero, e[i + 1]);
+            }
+            if (any(stops)) {
+                d[i + 1] = choose(stops, d[i + 1] - p, d[i + 1]);
+                e[i] = choose(stops, b, e[i]);
+                running = without(running, stops);
+                if (none(running)) {
+                    break;
+                }
+                rotating = without(rotating, stops);
+            }
+            const V length = divisorWhere(rotating, r);
+            const V sine = f / length;
+            const V cosine = g / length;
+            const V h = d[i + 1] - p;
+            const V t = (d[i] - h) * sine + (cosine + cosine) * b;
+            s = choose(rotating, sine, s);
+            c = choose(rotating, cosine, c);
+            p = choose(rotating, sine * t, p);
+            d[i + 1] = choose(rotating, h + p, d[i + 1]);
+            g = choose(rotating, cosine * t - b, g);
+            if (z != nullptr) {
+                V *lower = z + i * order;
+                V *upper = lower + order;
+                if (all(rotating)) {
+                    for (int j = 0; j < order; ++j) {
+                        const V x = upper[j];
+                        upper[j] = s * lower[j] + c * x;
+                        lower[j] = c * lower[j] - s * x;
+                    }
+                } else if (any(rotating)) {
+                    for (int j = 0; j < order; ++j) {
+                        const V x = upper[j];
+                        upper[j] = choose(rotating, s * lower[j] + c * x, x);
+                        lower[j] = choose(rotating, c * lower[j] - s * x, lower[j]);
+                    }
+                }
+            }
+            const auto finishes = both(startsAt(i), rotating);
+            d[i] = choose(finishes, d[i] - p, d[i]);
+            e[i] = choose(finishes, g, e[i]);
+        }
+    }
+    for (int i = 0; i < order; ++i) {
+        product = product * d[i];
     }
     return everywhere<V>(false);
 }

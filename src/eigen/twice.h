@@ -61,6 +61,10 @@ template <class M, class L>
 inline Twice<L> choose(TwiceMask<M> mask, Twice<L> a, Twice<L> b) {
     return {choose(mask.low, a.low, b.low), choose(mask.high, a.high, b.high)};
 }
+template <class M, class L>
+inline Twice<L> only(TwiceMask<M> mask, Twice<L> x) {
+    return {only(mask.low, x.low), only(mask.high, x.high)};
+}
 template <class M>
 inline TwiceMask<M> both(TwiceMask<M> a, TwiceMask<M> b) {
     return {both(a.low, b.low), both(a.high, b.high)};

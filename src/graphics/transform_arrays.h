@@ -2,112 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Arrays of vectors of 2 to 4 elements, eight vectors at a time, each in a lane of its own: one register for each
-// element. Vectors may be any number of bytes apart.
+// Transforms of arrays of vectors of 2 to 4 elements, eight vectors at a time. Vectors may be any number of bytes
+// apart.
 
-#include "runtime/addresses.h"
-#include "runtime/lanes.h"
+#include "runtime/vector_groups.h"
 
-#include <array>
 #include <cstddef>
 
 namespace lxpm {
-
-template <int K>
-using Vectors = std::array<Group<float>, K>;
-
-// How vectors stand in memory, as far as it matters to the way they are read and written. A vector of three elements is
-// read as four where nothing but the space between two vectors is read with it: if there is another vector close
-// behind, that space is as good as the vectors themselves.
-enum class Spacing { Packed, Wide, Any };
-
-template <int K>
-constexpr Spacing spacingOf(std::ptrdiff_t stride) {
-    constexpr std::ptrdiff_t smallestPage = 4096;
-    if (stride == 4 * K) {
-        return Spacing::Packed;
-    }
-    return K == 3 && stride >= 16 && stride <= smallestPage ? Spacing::Wide : Spacing::Any;
-}
-
-namespace detail {
-
-inline void storeHalves(Group<float> group, float *low, float *high) {
-    Lanes<float, 4>{_mm256_castps256_ps128(group.vector)}.store(low);
-    Lanes<float, 4>{_mm256_extractf128_ps(group.vector, 1)}.store(high);
-}
-
-template <int e0, int e1, int e2, int e3>
-inline Group<float> shuffled(Group<float> a, Group<float> b) {
-    return {_mm256_shuffle_ps(a.vector, b.vector, _MM_SHUFFLE(e3, e2, e1, e0))};
-}
-
-// The 4x4 blocks of both halves, each by itself. Comments give vector and element of the lower half.
-inline Vectors<4> transposedInHalves(const Vectors<4> &r) {
-    const Group<float> low01 = {_mm256_unpacklo_ps(r[0].vector, r[1].vector)};  // 00 10 01 11
-    const Group<float> low23 = {_mm256_unpacklo_ps(r[2].vector, r[3].vector)};  // 20 30 21 31
-    const Group<float> high01 = {_mm256_unpackhi_ps(r[0].vector, r[1].vector)}; // 02 12 03 13
-    const Group<float> high23 = {_mm256_unpackhi_ps(r[2].vector, r[3].vector)}; // 22 32 23 33
-    return {shuffled<0, 1, 0, 1>(low01, low23), shuffled<2, 3, 2, 3>(low01, low23),
-            shuffled<0, 1, 0, 1>(high01, high23), shuffled<2, 3, 2, 3>(high01, high23)};
-}
-
-} // namespace detail
-
-// Eight vectors in lanes. In comments, elements of the lower half are named by letter and vector.
-template <int K, Spacing spacing>
-[[gnu::always_inline]] inline Vectors<K> readVectors(const float *from, std::ptrdiff_t stride) {
-    using detail::shuffled;
-    if constexpr (K == 2 && spacing == Spacing::Packed) {
-        const Group<float> first = loadHalves(from, from + 8);       // x0 y0 x1 y1
-        const Group<float> second = loadHalves(from + 4, from + 12); // x2 y2 x3 y3
-        return {shuffled<0, 2, 0, 2>(first, second), shuffled<1, 3, 1, 3>(first, second)};
-    } else if constexpr (K == 3 && spacing == Spacing::Packed) {
-        const Group<float> first = loadHalves(from, from + 12);      // x0 y0 z0 x1
-        const Group<float> second = loadHalves(from + 4, from + 16); // y1 z1 x2 y2
-        const Group<float> third = loadHalves(from + 8, from + 20);  // z2 x3 y3 z3
-        const Group<float> xy = shuffled<2, 3, 1, 2>(second, third); // x2 y2 x3 y3
-        const Group<float> yz = shuffled<1, 2, 0, 1>(first, second); // y0 z0 y1 z1
-        return {shuffled<0, 3, 0, 2>(first, xy), shuffled<0, 2, 1, 3>(yz, xy), shuffled<1, 3, 0, 3>(yz, third)};
-    } else {
-        constexpr int loaded = spacing == Spacing::Wide ? 4 : K;
-        const auto vector = [from, stride](int k) { return loadFirst<loaded>(shifted(from, k * stride)); };
-        const Vectors<4> element =
-            detail::transposedInHalves({joined(vector(0), vector(4)), joined(vector(1), vector(5)),
-                                        joined(vector(2), vector(6)), joined(vector(3), vector(7))});
-        Vectors<K> result;
-        for (int i = 0; i < K; ++i) {
-            result[i] = element[i];
-        }
-        return result;
-    }
-}
-
-template <int K, bool isPacked>
-[[gnu::always_inline]] inline void writeVectors(float *to, std::ptrdiff_t stride, const Vectors<K> &element) {
-    using detail::shuffled;
-    using detail::storeHalves;
-    if constexpr (K == 2 && isPacked) {
-        const auto [x, y] = element;
-        storeHalves({_mm256_unpacklo_ps(x.vector, y.vector)}, to, to + 8);
-        storeHalves({_mm256_unpackhi_ps(x.vector, y.vector)}, to + 4, to + 12);
-    } else if constexpr (K == 3 && isPacked) {
-        const auto [x, y, z] = element;
-        const Group<float> xy = shuffled<0, 2, 0, 2>(x, y); // x0 x2 y0 y2
-        const Group<float> yz = shuffled<1, 3, 1, 3>(y, z); // y1 y3 z1 z3
-        const Group<float> zx = shuffled<0, 2, 1, 3>(z, x); // z0 z2 x1 x3
-        storeHalves(shuffled<0, 2, 0, 2>(xy, zx), to, to + 12);
-        storeHalves(shuffled<0, 2, 1, 3>(yz, xy), to + 4, to + 16);
-        storeHalves(shuffled<1, 3, 1, 3>(zx, yz), to + 8, to + 20);
-    } else {
-        const Vectors<4> vector =
-            detail::transposedInHalves({element[0], element[1], element[K > 2 ? 2 : 0], element[K - 1]});
-        for (int k = 0; k < 4; ++k) {
-            storeFirst<K>(shifted(to, k * stride), {_mm256_castps256_ps128(vector[k].vector)});
-            storeFirst<K>(shifted(to, (k + 4) * stride), {_mm256_extractf128_ps(vector[k].vector, 1)});
-        }
-    }
-}
 
 // A transform is a class with
 //

@@ -56,9 +56,9 @@ template <int Order, class A, class Rows, class D, class... Addend>
 [[gnu::always_inline]] inline void multiplySquare(int rows, const A &a, const Rows &b, const D &dst,
                                                   const Addend &...addend) {
     if (rows == 1) {
-        multiplyRows<1, false>(a, b, dst, addend...);
+        multiplyRows<1, 0>(a, b, dst, addend...);
     } else {
-        multiplyRows<Order, false>(a, b, dst, addend...);
+        multiplyRows<Order, 0>(a, b, dst, addend...);
     }
 }
 

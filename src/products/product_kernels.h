@@ -10,6 +10,7 @@
 #include "products/product.h"
 #include "products/staging.h"
 #include "products/unrolled_product.h"
+#include "products/vector_product.h"
 #include "runtime/parallel.h"
 #include "runtime/with_order.h"
 
@@ -22,16 +23,20 @@ namespace lxpm {
 template <Walking walking, class T, int Order>
 void chooseUnrolledWalking(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     const bool singleB = p.b.isSingle();
-    if (p.rows == 1 && p.addend) {
-        return singleB ? multiplyUnrolled<walking, T, Order, 1, Given{true, false, true}>(p, count)
-                       : multiplyUnrolled<walking, T, Order, 1, Given{false, false, true}>(p, count);
-    }
+    constexpr std::ptrdiff_t touching = Order * sizeof(T);
     if (p.rows == 1) {
+        if (singleB && walking == Walking::ByBytes && p.dst.step[0] == touching) {
+            return p.addend ? multiplyUnrolled<walking, T, Order, 1, Given{true, true, true}>(p, count)
+                            : multiplyUnrolled<walking, T, Order, 1, Given{true, true, false}>(p, count);
+        }
+        if (p.addend) {
+            return singleB ? multiplyUnrolled<walking, T, Order, 1, Given{true, false, true}>(p, count)
+                           : multiplyUnrolled<walking, T, Order, 1, Given{false, false, true}>(p, count);
+        }
         return singleB ? multiplyUnrolled<walking, T, Order, 1, Given{true, false, false}>(p, count)
                        : multiplyUnrolled<walking, T, Order, 1, Given{false, false, false}>(p, count);
     }
 
-    constexpr std::ptrdiff_t touching = Order * sizeof(T);
     const bool denseRows = p.dst.step[1] == touching;
     if constexpr (std::is_same_v<T, float> && Order == 4) {
         if (p.a.rowsTouch()) {
@@ -61,7 +66,8 @@ void chooseUnrolledWalking(const MatrixProduct<T> &p, std::ptrdiff_t count) {
 
 template <class T, int Order>
 void chooseUnrolled(const MatrixProduct<T> &p, std::ptrdiff_t count) {
-    const bool byBytes = p.a.pointerStep[0] == 0 && p.b.pointerStep[0] == 0 && p.dst.pointerStep[0] == 0;
+    const bool byBytes = p.a.pointerStep[0] == 0 && p.b.pointerStep[0] == 0 && p.dst.pointerStep[0] == 0 &&
+                         (!p.addend || p.addend->pointerStep[0] == 0);
     return byBytes ? chooseUnrolledWalking<Walking::ByBytes, T, Order>(p, count)
                    : chooseUnrolledWalking<Walking::ThroughPointers, T, Order>(p, count);
 }
@@ -95,17 +101,20 @@ template <class T, int Order>
 
 template <class T, int Order>
 void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+    std::ptrdiff_t done = 0;
+    if (VectorsOf<T, Order>::accepts(p)) {
+        done = VectorsOf<T, Order>::run(p, count);
+    } else if (LaneProduct<T, Order>::accepts(p)) {
+        done = LaneProduct<T, Order>::run(p, count);
+    }
+    if (done == count) {
+        return;
+    }
     const bool isUsable =
         p.a.movesByBytes() && p.b.rowsTouch() && p.dst.rowsTouch() && (!p.addend || p.addend->rowsTouch());
     if (isUsable) {
-        chooseUnrolled<T, Order>(p, count);
-        return;
-    }
-    std::ptrdiff_t done = 0;
-    if (LaneProduct<T, Order>::accepts(p)) {
-        done = LaneProduct<T, Order>::run(p, count);
-    }
-    if (done < count) {
+        chooseUnrolled<T, Order>(p.from(done), count - done);
+    } else {
         multiplyStaged<T, Order>(p.from(done), count - done);
     }
 }

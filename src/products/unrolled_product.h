@@ -129,12 +129,13 @@ template <class Row, class Object>
 // How far a kernel may count on what it is given.
 struct Given {
     bool singleB;   // the second operand is the same for all objects
-    bool denseRows; // the destination's rows touch, so that a row may be stored over the beginning of the next one
+    bool denseRows; // the destination's rows touch, those of vectors in the array, so that a row may be stored over the
+                    // beginning of the next one
     bool addend;
 };
 
-// The rows of one result. Addend: none or one.
-template <int Rows, bool denseRows, class Row, std::size_t Order, class A, class D, class... Addend>
+// The rows of one result. Addend: none or one. Whole: how many of the rows may be stored over what stands behind them.
+template <int Rows, int whole, class Row, std::size_t Order, class A, class D, class... Addend>
 [[gnu::always_inline]] inline void multiplyRows(const A &a, const std::array<Row, Order> &b, const D &dst,
                                                 const Addend &...addend) {
 #pragma GCC unroll 8
@@ -145,12 +146,8 @@ template <int Rows, bool denseRows, class Row, std::size_t Order, class A, class
             sum.add(*a.at(i, static_cast<std::ptrdiff_t>(k)), b[k]);
         }
         (sum.add(loadRow<static_cast<int>(Order)>(addend, i)), ...);
-        if constexpr (denseRows) {
-            if (i + 1 < Rows) {
-                sum.storeWhole(dst.at(i, 0));
-            } else {
-                sum.store(dst.at(i, 0));
-            }
+        if (i < whole) {
+            sum.storeWhole(dst.at(i, 0));
         } else {
             storeRow(sum, dst, i);
         }
@@ -163,6 +160,7 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
     const std::ptrdiff_t aRow = p.a.step[1];
     const std::ptrdiff_t aElement = p.a.step[2];
     const std::ptrdiff_t bRow = p.b.step[1];
+    const std::ptrdiff_t addendRow = p.addend ? p.addend->step[1] : 0;
     const std::ptrdiff_t dstRow = p.dst.step[1];
 
     using Row = ElementRow<T, Order>;
@@ -175,11 +173,12 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
     };
     ObjectWalk<const T, walking> walkA(p.a);
     ObjectWalk<const T, walking> walkB(p.b);
+    ObjectWalk<const T, walking> walkAddend(p.addend.value_or(p.a));
     ObjectWalk<T, walking> walkDst(p.dst);
     if constexpr (given.singleB) {
         loadB(walkB.object());
     }
-    for (std::ptrdiff_t object = 0; object < count; ++object) {
+    const auto multiplyNext = [&]<int whole>() __attribute__((always_inline)) {
         if constexpr (!given.singleB) {
             loadB(walkB.object());
             walkB.next();
@@ -187,13 +186,22 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
         const StridedObject<const T> a = {walkA.object(), aRow, aElement};
         const TouchingObject<T> dst({walkDst.object(), dstRow, sizeof(T)});
         if constexpr (given.addend) {
-            multiplyRows<Rows, given.denseRows>(
-                a, b, dst, TouchingObject<const T>({p.addend->at(object, 0, 0), p.addend->step[1], sizeof(T)}));
+            multiplyRows<Rows, whole>(a, b, dst, TouchingObject<const T>({walkAddend.object(), addendRow, sizeof(T)}));
         } else {
-            multiplyRows<Rows, given.denseRows>(a, b, dst);
+            multiplyRows<Rows, whole>(a, b, dst);
         }
         walkA.next();
+        walkAddend.next();
         walkDst.next();
+    };
+    // The only row of the last object has no other behind it.
+    constexpr int wholeRows = !given.denseRows ? 0 : Rows == 1 ? 1 : Rows - 1;
+    const std::ptrdiff_t apart = wholeRows == Rows ? 1 : 0;
+    for (std::ptrdiff_t object = 0; object < count - apart; ++object) {
+        multiplyNext.template operator()<wholeRows>();
+    }
+    if (apart != 0) {
+        multiplyNext.template operator()<0>();
     }
 }
 

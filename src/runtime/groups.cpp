@@ -3,6 +3,8 @@
 
 #include "runtime/groups.h"
 
+#include "runtime/numbers.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -50,9 +52,11 @@ GroupOperand<Element>::GroupOperand(const Addresses<Element> &operand, int heigh
     if (columns == 1 && addresses.movesByBytes()) { // a column whose elements touch is a row
         addresses.step[2] = size;
     }
-    access = addresses.rowsTouch()                                        ? Access::RowsTouch
-             : addresses.step[0] == size && addresses.pointerStep[0] == 0 ? Access::ObjectsTouch
-                                                                          : Access::OneByOne;
+    access = addresses.rowsTouch()                                            ? Access::RowsTouch
+             : addresses.step[0] == size && addresses.pointerStep[0] == 0     ? Access::ObjectsTouch
+             : addresses.movesByBytes() && addresses.transposed().rowsTouch() ? Access::ColumnsTouch
+             : addresses.movesByBytes()                                       ? Access::OneByOne
+                                                                              : Access::ThroughPointers;
     isDense = access == Access::RowsTouch && (rows == 1 || addresses.step[1] == columns * size);
     isPlain = isDense && (addresses.pointers == nullptr || addresses.pointerStep == Steps{1, 0, 0});
 }
@@ -67,7 +71,7 @@ template struct GroupOperand<double>;
 namespace {
 
 using detail::Access;
-
+using detail::GroupOperand;
 using detail::loadSome;
 using detail::Pointers;
 using detail::storeSome;
@@ -76,12 +80,8 @@ using detail::storeSome;
 template <class T>
 [[gnu::always_inline]] inline void loadRow(const Pointers<const T> &from, int columns, Group<T> *to) {
     if (columns >= 4) {
-        int j = 0;
-        for (; j + 4 <= columns; j += 4) {
-            loadSome<4, T>(from, j, to);
-        }
-        if (j < columns) {
-            loadSome<4, T>(from, columns - 4, to);
+        for (int j = 0; j < columns; j += 4) {
+            loadSome<4, T>(from, std::min(j, columns - 4), to);
         }
     } else if (columns == 3) {
         loadSome<3, T>(from, 0, to);
@@ -95,12 +95,8 @@ template <class T>
 template <class T>
 [[gnu::always_inline]] inline void storeRow(const Group<T> *from, int columns, const Pointers<T> &to) {
     if (columns >= 4) {
-        int j = 0;
-        for (; j + 4 <= columns; j += 4) {
-            storeSome<4, T>(from, j, to);
-        }
-        if (j < columns) {
-            storeSome<4, T>(from, columns - 4, to);
+        for (int j = 0; j < columns; j += 4) {
+            storeSome<4, T>(from, std::min(j, columns - 4), to);
         }
     } else if (columns == 3) {
         storeSome<3, T>(from, 0, to);
@@ -111,58 +107,78 @@ template <class T>
     }
 }
 
-// Where the objects of a group, their rows and their elements start. Of an operand that moves by bytes; or, where a row
-// has element pointers of its own, of one that does so from object to object.
+// Where the objects of a group and their elements stand, of an operand that moves by bytes inside of objects.
 template <class Element>
 class Places {
 public:
-    Places(const detail::GroupOperand<Element> &operand, std::ptrdiff_t object)
-        : pointers(operand.addresses.movesByBytes() ? nullptr : operand.addresses.pointers),
-          pointerRow(operand.addresses.pointerStep[1]), pointerColumn(operand.addresses.pointerStep[2]),
-          rowStep(operand.addresses.step[1]), columnStep(operand.addresses.step[2]), rows(operand.rows) {
-        const Addresses<Element> &a = operand.addresses;
-        const std::ptrdiff_t step = a.step[0];
-        std::ptrdiff_t bytes = a.offset + object * step;
+    [[gnu::always_inline]] Places(const Addresses<Element> &operand, std::ptrdiff_t object)
+        : rowStep(operand.step[1]), columnStep(operand.step[2]) {
+        std::ptrdiff_t bytes = operand.offset + object * operand.step[0];
+#pragma GCC unroll 8
         for (int lane = 0; lane < lanes; ++lane) {
-            offset[lane] = bytes;
-            bytes += step;
-        }
-        if (pointers != nullptr) {
-            return;
-        }
-        for (int lane = 0; lane < lanes; ++lane) {
-            start[lane] =
-                shifted(a.pointers != nullptr ? a.pointers[(object + lane) * a.pointerStep[0]] : a.base, offset[lane]);
+            start[lane] = shifted(
+                operand.pointers != nullptr ? operand.pointers[(object + lane) * operand.pointerStep[0]] : operand.base,
+                bytes);
+            bytes += operand.step[0];
         }
     }
 
-    bool movesByBytes() const { return pointers == nullptr; }
-
-    Pointers<Element> row(std::ptrdiff_t i) const {
-        Pointers<Element> to = {};
-        if (!movesByBytes()) {
-            return to;
-        }
+    // Of element (i, j).
+    [[gnu::always_inline]] Pointers<Element> at(std::ptrdiff_t i, std::ptrdiff_t j) const {
+        Pointers<Element> to;
+        const std::ptrdiff_t bytes = i * rowStep + j * columnStep;
+#pragma GCC unroll 8
         for (int lane = 0; lane < lanes; ++lane) {
-            to[lane] = shifted(start[lane], i * rowStep);
+            to[lane] = shifted(start[lane], bytes);
         }
         return to;
     }
 
-    Pointers<Element> row(std::ptrdiff_t i, const int *rowOf) const {
-        Pointers<Element> to = {};
-        if (!movesByBytes()) {
-            return to;
-        }
+    // Of another row in each object.
+    [[gnu::always_inline]] Pointers<Element> atRow(const int *rowOf, std::ptrdiff_t rows, std::ptrdiff_t i,
+                                                   std::ptrdiff_t j) const {
+        Pointers<Element> to;
+#pragma GCC unroll 8
         for (std::ptrdiff_t lane = 0; lane < lanes; ++lane) {
-            to[lane] = shifted(start[lane], rowOf[lane * rows + i] * rowStep);
+            to[lane] = shifted(start[lane], rowOf[lane * rows + i] * rowStep + j * columnStep);
         }
         return to;
     }
 
-    Element *element(int lane, std::ptrdiff_t i, std::ptrdiff_t j) const {
-        return pointers != nullptr ? shifted(pointers[i * pointerRow + j * pointerColumn], offset[lane])
-                                   : shifted(start[lane], i * rowStep + j * columnStep);
+private:
+    static constexpr int lanes = fullLanes<std::remove_const_t<Element>>;
+
+    std::ptrdiff_t rowStep;
+    std::ptrdiff_t columnStep;
+    Pointers<Element> start;
+};
+
+// The same of an operand with a pointer to each element of an object.
+template <class Element>
+class PointedPlaces {
+public:
+    [[gnu::always_inline]] PointedPlaces(const Addresses<Element> &operand, std::ptrdiff_t object)
+        : pointers(operand.pointers), pointerRow(operand.pointerStep[1]), pointerColumn(operand.pointerStep[2]),
+          offset(operand.offset + object * operand.step[0]), step(operand.step[0]) {}
+
+    [[gnu::always_inline]] Pointers<Element> at(std::ptrdiff_t i, std::ptrdiff_t j) const {
+        Pointers<Element> to;
+        Element *const first = shifted(pointers[i * pointerRow + j * pointerColumn], offset);
+#pragma GCC unroll 8
+        for (int lane = 0; lane < lanes; ++lane) {
+            to[lane] = shifted(first, lane * step);
+        }
+        return to;
+    }
+
+    [[gnu::always_inline]] Pointers<Element> atRow(const int *rowOf, std::ptrdiff_t rows, std::ptrdiff_t i,
+                                                   std::ptrdiff_t j) const {
+        Pointers<Element> to;
+#pragma GCC unroll 8
+        for (std::ptrdiff_t lane = 0; lane < lanes; ++lane) {
+            to[lane] = shifted(pointers[rowOf[lane * rows + i] * pointerRow + j * pointerColumn], offset + lane * step);
+        }
+        return to;
     }
 
 private:
@@ -171,140 +187,248 @@ private:
     Element *const *pointers;
     std::ptrdiff_t pointerRow;
     std::ptrdiff_t pointerColumn;
-    std::ptrdiff_t rowStep;
-    std::ptrdiff_t columnStep;
-    std::ptrdiff_t rows;
-    std::array<std::ptrdiff_t, lanes> offset;
-    Pointers<Element> start;
+    std::ptrdiff_t offset;
+    std::ptrdiff_t step;
 };
+
+template <class T>
+[[gnu::always_inline]] inline Group<T> gathered(const Pointers<const T> &from) {
+    return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
+        return Group<T>{typename Group<T>::Vector{*from[lane]...}};
+    }
+    (std::make_integer_sequence<int, groupSize<T>>());
+}
+
+template <class T>
+[[gnu::always_inline]] inline void scatter(Group<T> group, const Pointers<T> &to) {
+#pragma GCC unroll 8
+    for (int lane = 0; lane < groupSize<T>; ++lane) {
+        *to[lane] = group.vector[lane];
+    }
+}
+
+// Rows in another order in each object, in registers: row i of the result is row rowOf[i], or the other way round.
+enum class Permuting { Forwards, Backwards };
+
+template <Permuting permuting, int Rows, int Columns, class T>
+[[gnu::always_inline]] inline void permuteRows(const Group<T> *from, const int *rowOf, Group<T> *to) {
+    std::array<Group<T>, Rows> numbers;
+#pragma GCC unroll 8
+    for (int i = 0; i < Rows; ++i) {
+        numbers[i] = [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
+            return Group<T>{typename Group<T>::Vector{static_cast<T>(rowOf[lane * Rows + i])...}};
+        }
+        (std::make_integer_sequence<int, groupSize<T>>());
+    }
+#pragma GCC unroll 8
+    for (int i = 0; i < Rows; ++i) {
+#pragma GCC unroll 8
+        for (int j = 0; j < Columns; ++j) {
+            to[i * Columns + j] = from[j];
+        }
+#pragma GCC unroll 8
+        for (int k = 1; k < Rows; ++k) {
+            const auto isMeant = permuting == Permuting::Forwards ? isEqual(numbers[i], Group<T>::splat(T(k)))
+                                                                  : isEqual(numbers[k], Group<T>::splat(T(i)));
+#pragma GCC unroll 8
+            for (int j = 0; j < Columns; ++j) {
+                to[i * Columns + j] = choose(isMeant, from[k * Columns + j], to[i * Columns + j]);
+            }
+        }
+    }
+}
 
 // Where a load by fours of a row may end without leaving it.
 constexpr int readableLengthOf(Part part, int row, int columns) {
     return part == Part::Whole ? columns : std::min(columns, (row / 4 + 1) * 4);
 }
 
-template <Part part, bool byIndex, class T>
-void loadGroup(const detail::GroupOperand<const T> &from, std::ptrdiff_t object, Group<T> *to, const int *rowOf) {
-    const int rows = from.rows;
-    const int columns = from.columns;
-    const Places<const T> source(from, object);
-    if (from.access == Access::RowsTouch) {
-        if (from.isDense && !byIndex && (part == Part::Whole || rows <= 6)) {
-            loadRow<T>(source.row(0), rows * columns, to);
-            return;
-        }
-        for (int i = 0; i < rows; ++i) {
-            loadRow<T>(byIndex ? source.row(i, rowOf) : source.row(i), readableLengthOf(part, i, columns),
-                       to + i * columns);
-        }
-        return;
-    }
-    if (from.access == Access::ObjectsTouch && !byIndex) {
-        for (int i = 0; i < rows; ++i) {
-            for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-                to[i * columns + j] = Group<T>::load(source.element(0, i, j));
-            }
-        }
-        return;
-    }
-    const auto rowOfLane = [&](int lane, int i) { return byIndex ? rowOf[lane * rows + i] : i; };
-    const auto gather = [&](const auto &element) __attribute__((always_inline)) {
-        return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
-            return Group<T>{typename Group<T>::Vector{*element(lane)...}};
-        }
-        (std::make_integer_sequence<int, groupSize<T>>());
-    };
+// Calls f(place in the group, element) with the elements of an object that moves by bytes, or through pointers.
+template <Part part, class Element, class F>
+[[gnu::always_inline]] inline void forEachPlace(const GroupOperand<Element> &operand, std::ptrdiff_t object, int rows,
+                                                int columns, const F &f) {
+    const Addresses<Element> a = operand.addresses;
+    const std::ptrdiff_t bytes = a.offset + object * a.step[0];
+    const bool movesByBytes = a.pointers == nullptr;
     for (int i = 0; i < rows; ++i) {
-        const Pointers<const T> row = byIndex ? source.row(i, rowOf) : source.row(i);
+        Element *element = shifted(a.base, movesByBytes ? bytes + i * a.step[1] : 0);
+        Element *const *pointer = a.pointers + i * a.pointerStep[1];
         for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-            Group<T> &element = to[i * columns + j];
-            if (source.movesByBytes()) {
-                const std::ptrdiff_t bytes = j * from.addresses.step[2];
-                element = gather([&](int lane) __attribute__((always_inline)) { return shifted(row[lane], bytes); });
-            } else {
-                element = gather([&](int lane) __attribute__((always_inline)) {
-                    return source.element(lane, rowOfLane(lane, i), j);
-                });
-            }
+            f(i * columns + j, movesByBytes ? element : shifted(*pointer, bytes));
+            element = shifted(element, a.step[2]);
+            pointer += a.pointerStep[2];
         }
     }
 }
 
+// What has to be picked element by element.
 template <Part part, bool byIndex, class T>
-void storeGroup(const detail::GroupOperand<T> &to, std::ptrdiff_t object, const Group<T> *from, const int *rowOf) {
+void pickGroup(const GroupOperand<const T> &from, std::ptrdiff_t object, Group<T> *to, const int *rowOf) {
+    const int rows = from.rows;
+    const int columns = from.columns;
+    const Addresses<const T> operand = from.addresses;
+    const auto pick = [&](const auto &places) __attribute__((always_inline)) {
+        for (int i = 0; i < rows; ++i) {
+            for (int j = 0; j < lengthOf(part, i, columns); ++j) {
+                to[i * columns + j] = gathered<T>(byIndex ? places.atRow(rowOf, rows, i, j) : places.at(i, j));
+            }
+        }
+    };
+    operand.movesByBytes() ? pick(Places<const T>(operand, object)) : pick(PointedPlaces<const T>(operand, object));
+}
+
+template <Part part, bool byIndex, class T>
+void placeGroup(const GroupOperand<T> &to, std::ptrdiff_t object, const Group<T> *from, const int *rowOf) {
     const int rows = to.rows;
     const int columns = to.columns;
-    const Places<T> destination(to, object);
+    const Addresses<T> operand = to.addresses;
+    const auto place = [&](const auto &places) __attribute__((always_inline)) {
+        for (int i = 0; i < rows; ++i) {
+            for (int j = 0; j < lengthOf(part, i, columns); ++j) {
+                scatter<T>(from[i * columns + j], byIndex ? places.atRow(rowOf, rows, i, j) : places.at(i, j));
+            }
+        }
+    };
+    operand.movesByBytes() ? place(Places<T>(operand, object)) : place(PointedPlaces<T>(operand, object));
+}
+
+// Rows, Columns: the sizes where they are known beforehand, else 0.
+template <Part part, bool byIndex, int Rows, int Columns, class T>
+void loadGroup(const GroupOperand<const T> &from, std::ptrdiff_t object, Group<T> *to, const int *rowOf) {
+    constexpr bool isKnown = Rows != 0;
+    const int rows = isKnown ? Rows : from.rows;
+    const int columns = isKnown ? Columns : from.columns;
+    const bool isPermuted = byIndex && isKnown;
+    if (from.access == Access::RowsTouch) {
+        const Places<const T> places(from.addresses, object);
+        if (from.isDense && !byIndex && (part == Part::Whole || rows <= 6)) {
+            loadRow<T>(places.at(0, 0), rows * columns, to);
+            return;
+        }
+        for (int i = 0; i < rows; ++i) {
+            loadRow<T>(byIndex ? places.atRow(rowOf, rows, i, 0) : places.at(i, 0), readableLengthOf(part, i, columns),
+                       to + i * columns);
+        }
+    } else if (from.access == Access::ColumnsTouch && !byIndex) {
+        const Places<const T> places(from.addresses, object);
+        Group<T> column[isKnown ? Rows : largestGroup];
+        for (int j = 0; j < columns; ++j) {
+            loadRow<T>(places.at(0, j), rows, column);
+            for (int i = 0; i < rows; ++i) {
+                to[i * columns + j] = column[i];
+            }
+        }
+    } else if (from.access == Access::ObjectsTouch && !byIndex) {
+        forEachPlace<part>(from, object, rows, columns,
+                           [&](int place, const T *element) { to[place] = Group<T>::load(element); });
+    } else if (isPermuted && (from.access == Access::ColumnsTouch || from.access == Access::ObjectsTouch)) {
+        Group<T> elements[isKnown ? Rows * Columns : 1];
+        loadGroup<part, false, Rows, Columns, T>(from, object, elements, nullptr);
+        permuteRows<Permuting::Forwards, Rows, Columns, T>(elements, rowOf, to);
+    } else {
+        pickGroup<part, byIndex, T>(from, object, to, rowOf);
+    }
+}
+
+template <Part part, bool byIndex, int Rows, int Columns, class T>
+void storeGroup(const GroupOperand<T> &to, std::ptrdiff_t object, const Group<T> *from, const int *rowOf) {
+    constexpr bool isKnown = Rows != 0;
+    const int rows = isKnown ? Rows : to.rows;
+    const int columns = isKnown ? Columns : to.columns;
+    const bool isPermuted = byIndex && isKnown;
     if (to.access == Access::RowsTouch) {
+        const Places<T> places(to.addresses, object);
         if (to.isDense && !byIndex && part == Part::Whole) {
-            storeRow<T>(from, rows * columns, destination.row(0));
+            storeRow<T>(from, rows * columns, places.at(0, 0));
             return;
         }
         for (int i = 0; i < rows; ++i) {
             storeRow<T>(from + i * columns, lengthOf(part, i, columns),
-                        byIndex ? destination.row(i, rowOf) : destination.row(i));
+                        byIndex ? places.atRow(rowOf, rows, i, 0) : places.at(i, 0));
         }
-        return;
-    }
-    if (to.access == Access::ObjectsTouch && !byIndex) {
-        for (int i = 0; i < rows; ++i) {
-            for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-                from[i * columns + j].store(destination.element(0, i, j));
+    } else if (to.access == Access::ColumnsTouch && !byIndex) {
+        const Places<T> places(to.addresses, object);
+        Group<T> column[isKnown ? Rows : largestGroup];
+        for (int j = 0; j < columns; ++j) {
+            const int first = part == Part::LowerTriangle ? j : 0;
+            for (int i = first; i < rows; ++i) {
+                column[i - first] = from[i * columns + j];
             }
+            storeRow<T>(column, rows - first, places.at(first, j));
         }
-        return;
-    }
-    for (int i = 0; i < rows; ++i) {
-        const Pointers<T> row = byIndex ? destination.row(i, rowOf) : destination.row(i);
-        for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-            std::array<T, groupSize<T>> elements;
-            from[i * columns + j].store(elements.data());
-            const std::ptrdiff_t bytes = j * to.addresses.step[2];
-#pragma GCC unroll 8
-            for (int lane = 0; lane < groupSize<T>; ++lane) {
-                *(destination.movesByBytes() ? shifted(row[lane], bytes)
-                                             : destination.element(lane, byIndex ? rowOf[lane * rows + i] : i, j)) =
-                    elements[lane];
-            }
-        }
+    } else if (to.access == Access::ObjectsTouch && !byIndex) {
+        forEachPlace<part>(to, object, rows, columns, [&](int place, T *element) { from[place].store(element); });
+    } else if (isPermuted && (to.access == Access::ColumnsTouch || to.access == Access::ObjectsTouch)) {
+        Group<T> elements[isKnown ? Rows * Columns : 1];
+        permuteRows<Permuting::Backwards, Rows, Columns, T>(from, rowOf, elements);
+        storeGroup<part, false, Rows, Columns, T>(to, object, elements, nullptr);
+    } else {
+        placeGroup<part, byIndex, T>(to, object, from, rowOf);
     }
 }
 
 } // namespace
 
 template <class T>
+template <int Rows, int Columns>
 void GroupSource<T>::loadAny(std::ptrdiff_t object, Group<T> *to) const {
-    loadGroup<Part::Whole, false>(from, object, to, nullptr);
+    loadGroup<Part::Whole, false, Rows, Columns, T>(from, object, to, nullptr);
 }
 
 template <class T>
+template <int Rows, int Columns>
 void GroupSource<T>::loadAny(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
-    loadGroup<Part::Whole, true>(from, object, to, rowOf);
+    loadGroup<Part::Whole, true, Rows, Columns, T>(from, object, to, rowOf);
 }
 
 template <class T>
+template <int Order>
 void GroupSource<T>::loadAnyLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
-    loadGroup<Part::LowerTriangle, false>(from, object, to, nullptr);
+    loadGroup<Part::LowerTriangle, false, Order, Order, T>(from, object, to, nullptr);
 }
 
 template <class T>
+template <int Rows, int Columns>
 void GroupDestination<T>::storeAny(std::ptrdiff_t object, const Group<T> *from) const {
-    storeGroup<Part::Whole, false>(to, object, from, nullptr);
+    storeGroup<Part::Whole, false, Rows, Columns, T>(to, object, from, nullptr);
 }
 
 template <class T>
+template <int Rows, int Columns>
 void GroupDestination<T>::storeAny(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
-    storeGroup<Part::Whole, true>(to, object, from, rowOf);
+    storeGroup<Part::Whole, true, Rows, Columns, T>(to, object, from, rowOf);
 }
 
 template <class T>
+template <int Order>
 void GroupDestination<T>::storeAnyLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
-    storeGroup<Part::LowerTriangle, false>(to, object, from, nullptr);
+    storeGroup<Part::LowerTriangle, false, Order, Order, T>(to, object, from, nullptr);
 }
 
-template class GroupSource<float>;
-template class GroupSource<double>;
-template class GroupDestination<float>;
-template class GroupDestination<double>;
+// Matrices of an order, and vectors: as rows, and as columns whose elements are permuted.
+#define INSTANTIATE_MATRICES(T, n)                                                                                     \
+    template void GroupSource<T>::loadAny<n, n>(std::ptrdiff_t, Group<T> *) const;                                     \
+    template void GroupSource<T>::loadAny<n, n>(std::ptrdiff_t, Group<T> *, const int *) const;                        \
+    template void GroupSource<T>::loadAnyLowerTriangle<n>(std::ptrdiff_t, Group<T> *) const;                           \
+    template void GroupDestination<T>::storeAny<n, n>(std::ptrdiff_t, const Group<T> *) const;                         \
+    template void GroupDestination<T>::storeAny<n, n>(std::ptrdiff_t, const Group<T> *, const int *) const;            \
+    template void GroupDestination<T>::storeAnyLowerTriangle<n>(std::ptrdiff_t, const Group<T> *) const;
+#define INSTANTIATE_VECTORS(T, n)                                                                                      \
+    template void GroupSource<T>::loadAny<1, n>(std::ptrdiff_t, Group<T> *) const;                                     \
+    template void GroupSource<T>::loadAny<n, 1>(std::ptrdiff_t, Group<T> *, const int *) const;                        \
+    template void GroupDestination<T>::storeAny<1, n>(std::ptrdiff_t, const Group<T> *) const;
+#define INSTANTIATE_ORDER(T, n)                                                                                        \
+    INSTANTIATE_MATRICES(T, n)                                                                                         \
+    INSTANTIATE_VECTORS(T, n)
+#define INSTANTIATE(T)                                                                                                 \
+    INSTANTIATE_MATRICES(T, 0)                                                                                         \
+    INSTANTIATE_MATRICES(T, 1)                                                                                         \
+    INSTANTIATE_MATRICES(T, 2)                                                                                         \
+    INSTANTIATE_ORDER(T, 3)                                                                                            \
+    INSTANTIATE_ORDER(T, 4)                                                                                            \
+    INSTANTIATE_ORDER(T, 5)                                                                                            \
+    INSTANTIATE_ORDER(T, 6)
+INSTANTIATE(float)
+INSTANTIATE(double)
 
 } // namespace lxpm

@@ -3,9 +3,9 @@
 #pragma once
 
 // Groups: as many objects of an array as a register has lanes, one object in each lane. Their elements are brought from
-// memory into lanes and back, row by row. Rows whose elements touch are turned in registers, four elements of each
-// object at a time; where the same element of successive objects touches, a register is loaded as it stands; anything
-// else is picked one by one.
+// memory into lanes and back, row by row. Rows or columns whose elements touch are turned in registers, four elements
+// of each object at a time; where the same element of successive objects touches, a register is loaded as it stands;
+// anything else is picked one by one.
 //
 // Rows may be permuted, each object's by its own indices. Of a lower triangle, what stands above the diagonal is
 // neither read through pointers nor written.
@@ -36,7 +36,7 @@ constexpr int lengthOf(Part part, int row, int columns) {
 
 namespace detail {
 
-enum class Access { RowsTouch, ObjectsTouch, OneByOne };
+enum class Access { RowsTouch, ColumnsTouch, ObjectsTouch, OneByOne, ThroughPointers };
 
 // An operand, its element pointers replaced by steps in bytes where they are as regular as those.
 template <class Element>
@@ -181,18 +181,18 @@ public:
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to) const {
         if constexpr (Rows == 0) {
-            loadAny(object, to);
+            loadAny<0, 0>(object, to);
         } else if (from.isPlain) {
             detail::loadLength<Rows * Columns, T>(detail::pointersTo(from, object), to);
         } else {
-            through<Rows * Columns>(to, [&](Group<T> *elements) { loadAny(object, elements); });
+            through<Rows, Columns>(to, [&](Group<T> *elements) { loadAny<Rows, Columns>(object, elements); });
         }
     }
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
         if constexpr (Rows == 0) {
-            loadAny(object, to, rowOf);
+            loadAny<0, 0>(object, to, rowOf);
         } else if (from.isPlain) {
             const auto objects = detail::pointersTo(from, object);
 #pragma GCC unroll 8
@@ -201,7 +201,7 @@ public:
                                                to + i * Columns);
             }
         } else {
-            through<Rows * Columns>(to, [&](Group<T> *elements) { loadAny(object, elements, rowOf); });
+            through<Rows, Columns>(to, [&](Group<T> *elements) { loadAny<Rows, Columns>(object, elements, rowOf); });
         }
     }
 
@@ -209,25 +209,37 @@ public:
     template <int Order>
     [[gnu::always_inline]] void loadLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
         if constexpr (Order == 0) {
-            loadAnyLowerTriangle(object, to);
+            loadAnyLowerTriangle<0>(object, to);
         } else if (from.isPlain) {
             detail::loadLength<Order * Order, T>(detail::pointersTo(from, object), to);
         } else {
-            through<Order * Order>(to, [&](Group<T> *elements) { loadAnyLowerTriangle(object, elements); });
+            through<Order, Order, Part::LowerTriangle>(
+                to, [&](Group<T> *elements) { loadAnyLowerTriangle<Order>(object, elements); });
         }
     }
 
 private:
     // By way of memory, so that the elements themselves can stay in registers.
-    template <int Elements, class Load>
+    template <int Rows, int Columns, Part part = Part::Whole, class Load>
     [[gnu::always_inline]] static void through(Group<T> *to, const Load &loadElements) {
-        Group<T> elements[Elements] = {};
+        Group<T> elements[Rows * Columns];
         loadElements(elements);
-        std::copy_n(elements, Elements, to);
+#pragma GCC unroll 8
+        for (int i = 0; i < Rows; ++i) {
+#pragma GCC unroll 8
+            for (int j = 0; j < Columns; ++j) {
+                if (j < lengthOf(part, i, Columns)) {
+                    to[i * Columns + j] = elements[i * Columns + j];
+                }
+            }
+        }
     }
 
+    template <int Rows, int Columns>
     void loadAny(std::ptrdiff_t object, Group<T> *to) const;
+    template <int Rows, int Columns>
     void loadAny(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const;
+    template <int Order>
     void loadAnyLowerTriangle(std::ptrdiff_t object, Group<T> *to) const;
 
     detail::GroupOperand<const T> from;
@@ -241,19 +253,19 @@ public:
     template <int Rows, int Columns>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from) const {
         if constexpr (Rows == 0) {
-            storeAny(object, from);
+            storeAny<0, 0>(object, from);
         } else if (to.isPlain) {
             detail::storeLength<Rows * Columns, T>(from, detail::pointersTo(to, object));
         } else {
             const auto elements = copied<Rows * Columns>(from);
-            storeAny(object, elements.data());
+            storeAny<Rows, Columns>(object, elements.data());
         }
     }
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
         if constexpr (Rows == 0) {
-            storeAny(object, from, rowOf);
+            storeAny<0, 0>(object, from, rowOf);
         } else if (to.isPlain) {
             const auto objects = detail::pointersTo(to, object);
 #pragma GCC unroll 8
@@ -263,19 +275,19 @@ public:
             }
         } else {
             const auto elements = copied<Rows * Columns>(from);
-            storeAny(object, elements.data(), rowOf);
+            storeAny<Rows, Columns>(object, elements.data(), rowOf);
         }
     }
 
     template <int Order>
     [[gnu::always_inline]] void storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
         if constexpr (Order == 0) {
-            storeAnyLowerTriangle(object, from);
+            storeAnyLowerTriangle<0>(object, from);
         } else if (to.isPlain) {
             storeRows(from, detail::pointersTo(to, object), std::make_integer_sequence<int, Order>());
         } else {
             const auto elements = copied<Order * Order>(from);
-            storeAnyLowerTriangle(object, elements.data());
+            storeAnyLowerTriangle<Order>(object, elements.data());
         }
     }
 
@@ -301,16 +313,14 @@ private:
         return elements;
     }
 
+    template <int Rows, int Columns>
     void storeAny(std::ptrdiff_t object, const Group<T> *from) const;
+    template <int Rows, int Columns>
     void storeAny(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const;
+    template <int Order>
     void storeAnyLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const;
 
     detail::GroupOperand<T> to;
 };
-
-extern template class GroupSource<float>;
-extern template class GroupSource<double>;
-extern template class GroupDestination<float>;
-extern template class GroupDestination<double>;
 
 } // namespace lxpm

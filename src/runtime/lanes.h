@@ -10,6 +10,7 @@
 // estimates.
 
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -43,6 +44,10 @@ struct Lanes {
 
     static Lanes load(const T *from) { return {reinterpret_cast<const Unaligned *>(from)->vector}; }
     void store(T *to) const { reinterpret_cast<Unaligned *>(to)->vector = vector; }
+    // Past the caches, at a multiple of a whole register's size.
+    void stream(T *to) const requires(N == fullLanes<T>) {
+        _mm256_stream_si256(reinterpret_cast<__m256i *>(to), std::bit_cast<__m256i>(vector));
+    }
     // One broadcast: as a list, not as a loop, of which the compiler would make insertions where it unrolls another.
     static Lanes splat(T value) {
         return [value]<std::size_t... lane>(std::index_sequence<lane...>) __attribute__((always_inline)) {

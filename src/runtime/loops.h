@@ -7,6 +7,7 @@
 //
 //   in registers   the destination's elements touch, each source's touch or are all the same one. A run goes in whole
 //                  registers and its end in ever smaller pieces.
+//   streamed       as in registers, but past the caches, where these could not keep the results.
 //   transposed     as in registers, but some sources' elements touch down the columns (the middle loop): blocks of 4 by
 //                  4 elements are turned in registers.
 //   one by one     anything else that moves by bytes.
@@ -17,6 +18,7 @@
 #include "runtime/lanes.h"
 #include "runtime/nest.h"
 #include "runtime/runs.h"
+#include "runtime/streaming.h"
 
 #include <algorithm>
 #include <array>
@@ -60,9 +62,11 @@ private:
         return source.step[1] == sizeof(T) ? Moves::Across : Moves::Any;
     }
 
+    enum class Way { InRegisters, Streamed, OneByOne };
+
     // All runs. Rows, Length: the runs of the middle loop and the elements of a run where their numbers are known
     // beforehand, else 0. What stands inside is forced inline: a call for each run would cost more than the run.
-    template <bool registers, int Rows, int Length, Moves... moves, std::size_t... s>
+    template <Way way, int Rows, int Length, Moves... moves, std::size_t... s>
     [[gnu::always_inline]] static void overRuns(const F &function, const Nest &shared, std::index_sequence<s...>) {
         const Nest nest = shared; // copies that no store below can reach, so that they stay in registers
         const F f = function;
@@ -71,8 +75,10 @@ private:
         const auto &[dst, src] = nest.operand;
         for (std::ptrdiff_t i = 0; i < nest.extent[0]; ++i) {
             for (std::ptrdiff_t j = 0; j < rows; ++j) {
-                if constexpr (registers) {
+                if constexpr (way == Way::InRegisters) {
                     runInRegisters(f, n, dst.at(i, j, 0), Run<T, moves>{src[s].at(i, j, 0), src[s].step[2]}...);
+                } else if constexpr (way == Way::Streamed) {
+                    runStreamed(f, n, dst.at(i, j, 0), Run<T, moves>{src[s].at(i, j, 0), src[s].step[2]}...);
                 } else {
                     runOneByOne(f, n, dst.at(i, j, 0), dst.step[2],
                                 Run<T, moves>{src[s].at(i, j, 0), src[s].step[2]}...);
@@ -87,7 +93,7 @@ private:
     static Loop chooseInRegisters(const Nest &nest) {
         constexpr std::size_t source = sizeof...(chosen);
         if constexpr (source == sources) {
-            return chooseLength<chosen...>(nest.extent[2]);
+            return chooseLength<chosen...>(nest);
         } else if (nest.operand.src[source].step[2] == 0) {
             return chooseInRegisters<chosen..., Moves::Nowhere>(nest);
         } else {
@@ -98,11 +104,15 @@ private:
     // Vectors and rows of orders 3 to 6, and whole matrices of these orders whose rows touch, are unrolled. (A matrix
     // has no constant beside it.)
     template <Moves... moves>
-    static Loop chooseLength(std::ptrdiff_t n) {
+    static Loop chooseLength(const Nest &nest) {
+        const std::ptrdiff_t n = nest.extent[2];
         if constexpr (std::is_same_v<F, Same> && ((moves == Moves::Along) && ...)) {
             if (n * std::ptrdiff_t(sizeof(T)) >= longRun) {
                 return asBytes;
             }
+        }
+        if (isStreamed(nest)) {
+            return streamed<moves...>;
         }
         switch (n) {
         case 3:
@@ -131,7 +141,18 @@ private:
 
     template <int Length, Moves... moves>
     static void inRegisters(const F &f, const Nest &nest) {
-        overRuns<true, 0, Length, moves...>(f, nest, Index());
+        overRuns<Way::InRegisters, 0, Length, moves...>(f, nest, Index());
+    }
+
+    static bool isStreamed(const Nest &nest) {
+        const std::ptrdiff_t run = nest.extent[2] * static_cast<std::ptrdiff_t>(sizeof(T));
+        return run >= shortestStream && nest.isDisjoint && outgrowsCaches(nest.extent[0] * nest.extent[1] * run);
+    }
+
+    template <Moves... moves>
+    static void streamed(const F &f, const Nest &nest) {
+        overRuns<Way::Streamed, 0, 0, moves...>(f, nest, Index());
+        finishStreaming();
     }
 
     // Long runs are copied by the C library, which aligns its stores and streams them past the caches where they are
@@ -354,7 +375,7 @@ private:
 
     template <int Rows, int Length, std::size_t... s>
     [[gnu::always_inline]] static void overAnyRuns(const F &f, const Nest &nest, std::index_sequence<s...>) {
-        overRuns<false, Rows, Length, anyMoves[s]...>(f, nest, Index());
+        overRuns<Way::OneByOne, Rows, Length, anyMoves[s]...>(f, nest, Index());
     }
 
     static constexpr std::array<Moves, sources> anyMoves = [] {

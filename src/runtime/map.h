@@ -41,7 +41,7 @@ void mapScattered(const F &f, Nest<T, sources> nest) {
 // The objects of an array whose elements all touch make one long run, but not together with a single object that is
 // used with each of them: there, each small object would end in scraps of registers. So the single object is written
 // side by side until it fills whole registers, and used with that many objects at a time. Where these registers are few
-// they stay loaded; otherwise the tile is made longer and read again and again.
+// they stay loaded; otherwise, and where results are streamed, the tile is made longer and read again and again.
 template <class T, std::size_t sources>
 class Tiling {
 public:
@@ -77,10 +77,12 @@ public:
         const std::ptrdiff_t objects = nest.extent[1];
         const std::ptrdiff_t fewestObjects = fullLanes<T> / std::gcd(n, std::ptrdiff_t(fullLanes<T>));
         const std::ptrdiff_t registers = fewestObjects * n / fullLanes<T>;
-        const bool staysLoaded = registers <= mostRegisters && othersTouch(nest, tiled);
-        const std::ptrdiff_t objectsPerTile = staysLoaded ? fewestObjects : longTile(n, fewestObjects);
+        const bool isStreamed = outgrowsCaches(objects * n * static_cast<std::ptrdiff_t>(sizeof(T)));
+        const bool staysLoaded = !isStreamed && registers <= mostRegisters && othersTouch(nest, tiled);
+        const std::ptrdiff_t objectsPerTile =
+            staysLoaded ? fewestObjects : longTile(n, fewestObjects, isStreamed ? shortestStreamed : shortestTile);
 
-        T tile[largestObject * fullLanes<T> + shortestTile];
+        T tile[largestObject * fullLanes<T> + shortestStreamed];
         Addresses<const T> &source = nest.operand.src[tiled];
         const T *object = source.at(0, 0, 0);
         for (std::ptrdiff_t i = 0; i < objectsPerTile; ++i) {
@@ -108,6 +110,7 @@ private:
     static constexpr std::ptrdiff_t enough = 32;        // objects, for the tile to pay
     static constexpr std::ptrdiff_t largestObject = 64; // elements; in larger ones the scraps do not matter
     static constexpr std::ptrdiff_t shortestTile = 64;  // elements; with shorter ones the time goes between the runs
+    static constexpr std::ptrdiff_t shortestStreamed = shortestStream / sizeof(T); // elements
 
     static bool othersTouch(const Nest<T, sources> &nest, std::size_t tiled) {
         bool all = true;
@@ -122,8 +125,8 @@ private:
         return operand.step[2] == sizeof(T) && operand.step[1] == n * operand.step[2];
     }
 
-    static std::ptrdiff_t longTile(std::ptrdiff_t n, std::ptrdiff_t fewestObjects) {
-        const std::ptrdiff_t wanted = (shortestTile + n - 1) / n;
+    static std::ptrdiff_t longTile(std::ptrdiff_t n, std::ptrdiff_t fewestObjects, std::ptrdiff_t shortest) {
+        const std::ptrdiff_t wanted = (shortest + n - 1) / n;
         return (wanted + fewestObjects - 1) / fewestObjects * fewestObjects;
     }
 

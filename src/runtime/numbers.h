@@ -64,6 +64,9 @@ inline V opaque(V x) {
     }                                                                                                                  \
     inline T choose(bool mask, T a, T b) {                                                                             \
         return mask ? a : b;                                                                                           \
+    }                                                                                                                  \
+    inline T only(bool mask, T x) {                                                                                    \
+        return mask ? x : T(0);                                                                                        \
     }
 LXPM_ON_ELEMENTS(float)
 LXPM_ON_ELEMENTS(double)
@@ -121,6 +124,9 @@ using Mask64 = MaskOf<Lanes64>;
     }                                                                                                                  \
     inline Number negated(Number x) {                                                                                  \
         return opaque(Number{_mm256_xor_##ps(Number::splat(-0.0).vector, opaque(x).vector)});                          \
+    }                                                                                                                  \
+    inline Number only(Mask mask, Number x) {                                                                          \
+        return {_mm256_and_##ps(mask.bits, x.vector)};                                                                 \
     }                                                                                                                  \
     inline bool any(Mask mask) {                                                                                       \
         return _mm256_movemask_##ps(mask.bits) != 0;                                                                   \

@@ -9,6 +9,7 @@
 #include "runtime/lanes.h"
 
 #include <cstddef>
+#include <cstdint>
 
 namespace lxpm {
 
@@ -69,6 +70,25 @@ template <class T, class F, class... S>
 #pragma GCC unroll 4
     for (; i + full <= n; i += full) {
         f(src.template elements<full>(i)...).store(dst + i);
+    }
+    runInPieces<full / 2>(f, n, dst, i, src...);
+}
+
+// With stores past the caches, from the first element on that stands where a whole register may be stored so.
+template <class T, class F, class... S>
+[[gnu::always_inline]] inline void runStreamed(const F &f, std::ptrdiff_t n, T *dst, const S &...src) {
+    constexpr int full = fullLanes<T>;
+    constexpr std::uintptr_t size = full * sizeof(T);
+    const std::uintptr_t bytes = -reinterpret_cast<std::uintptr_t>(dst) % size;
+    std::ptrdiff_t i = static_cast<std::ptrdiff_t>(bytes / sizeof(T));
+    if (bytes % sizeof(T) != 0 || n < full) {
+        runInRegisters(f, n, dst, src...);
+        return;
+    }
+    runInPieces<full / 2>(f, i, dst, 0, src...);
+#pragma GCC unroll 4
+    for (; i + full <= n; i += full) {
+        f(src.template elements<full>(i)...).stream(dst + i);
     }
     runInPieces<full / 2>(f, n, dst, i, src...);
 }

@@ -12,7 +12,11 @@ void addMoving(PeerTable &table);
 void addProducts(PeerTable &table);
 void addReductions(PeerTable &table);
 void addGraphics(PeerTable &table);
-void addSolvers(PeerTable &table);
-void addEigenproblems(PeerTable &table);
+
+// What takes the compiler long, each type in a file of its own.
+template <class T>
+void addSolvers(PeerTable &table, const std::string &type);
+template <class T>
+void addEigenproblems(PeerTable &table, const std::string &type);
 
 } // namespace lxpm::bench::eigen

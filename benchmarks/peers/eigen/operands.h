@@ -3,9 +3,10 @@
 #pragma once
 
 #include <Eigen/Core>
+#include <type_traits>
 
 // A peer's operands as Eigen sees them: at(k) is what takes part in the computation of object k. Sizes are known at
-// compile time, which is Eigen at its fastest.
+// compile time, which is Eigen at its fastest. Every Object says its size as the largest that it could have.
 
 namespace lxpm::bench::eigen {
 
@@ -14,11 +15,20 @@ using Matrix = Eigen::Matrix<T, order, order, Eigen::RowMajor>;
 template <class T, int len>
 using Vector = Eigen::Matrix<T, len, 1>;
 
+// For decompositions of more than 8 rows, whose sizes Eigen is better told at run time: it calls kernels there instead
+// of writing all steps out, which takes the compiler many minutes and gigabytes. The elements need no heap.
+template <class T, int height, int width, int options>
+using Decomposed = std::conditional_t<(height <= 8), Eigen::Matrix<T, height, width, options>,
+                                      Eigen::Matrix<T, Eigen::Dynamic, Eigen::Dynamic, options, height, width>>;
+
 template <class Object>
 class Array {
 public:
     explicit Array(const void *data) : data_(static_cast<const Scalar *>(data)) {}
-    auto at(long k) const { return Eigen::Map<const Object>(data_ + k * Object::SizeAtCompileTime); }
+    auto at(long k) const {
+        return Eigen::Map<const Object>(data_ + k * Object::MaxSizeAtCompileTime, Object::MaxRowsAtCompileTime,
+                                        Object::MaxColsAtCompileTime);
+    }
 
 private:
     using Scalar = typename Object::Scalar;

@@ -11,8 +11,10 @@ extern "C" const lxpm::bench::PeerTable *LXPM_PEER_TABLE() {
         lxpm::bench::eigen::addProducts(table);
         lxpm::bench::eigen::addReductions(table);
         lxpm::bench::eigen::addGraphics(table);
-        lxpm::bench::eigen::addSolvers(table);
-        lxpm::bench::eigen::addEigenproblems(table);
+        lxpm::bench::eigen::addSolvers<float>(table, "32f");
+        lxpm::bench::eigen::addSolvers<double>(table, "64f");
+        lxpm::bench::eigen::addEigenproblems<float>(table, "32f");
+        lxpm::bench::eigen::addEigenproblems<double>(table, "64f");
         return table;
     }();
     return &all;

@@ -1,5 +1,6 @@
 // Copyright (c) 2026 The lxpm authors
 // SPDX-License-Identifier: MIT
+#pragma once
 
 #include "blocks.h"
 #include "peers/eigen/families.h"
@@ -14,12 +15,12 @@ namespace {
 // The solver reads the triangle below the diagonal, the library the one above it.
 template <class T, int n, bool hasVectors, bool isDirect>
 void runSymmetric(const PeerOperands &operands) {
-    using M = Matrix<T, n>;
+    using M = Decomposed<T, n, n, Eigen::RowMajor>;
     inBlocks(operands.count, operands.threads, [&](long begin, long end) {
         const TransposedArray<M> source(operands.src1);
         auto *values = static_cast<T *>(operands.dst);
         T *vectors = values + operands.count * n;
-        Eigen::SelfAdjointEigenSolver<Eigen::Matrix<T, n, n>> solver;
+        Eigen::SelfAdjointEigenSolver<Decomposed<T, n, n, Eigen::ColMajor>> solver;
         for (long k = begin; k < end; ++k) {
             const int options = hasVectors ? Eigen::ComputeEigenvectors : Eigen::EigenvaluesOnly;
             if constexpr (isDirect) {
@@ -29,7 +30,7 @@ void runSymmetric(const PeerOperands &operands) {
             }
             Eigen::Map<Vector<T, n>>(values + k * n) = solver.eigenvalues().reverse();
             if constexpr (hasVectors) {
-                Eigen::Map<M>(vectors + k * n * n) = solver.eigenvectors().rowwise().reverse();
+                Eigen::Map<M>(vectors + k * n * n, n, n) = solver.eigenvectors().rowwise().reverse();
             }
         }
     });
@@ -38,19 +39,19 @@ void runSymmetric(const PeerOperands &operands) {
 // Eigenvectors as they are found, a pair's in its two columns.
 template <class T, int n, bool hasVectors>
 void runGeneral(const PeerOperands &operands) {
-    using M = Matrix<T, n>;
+    using M = Decomposed<T, n, n, Eigen::RowMajor>;
     inBlocks(operands.count, operands.threads, [&](long begin, long end) {
         const Array<M> source(operands.src1);
         auto *re = static_cast<T *>(operands.dst);
         T *im = re + operands.count * n;
         T *vectors = im + operands.count * n;
-        Eigen::EigenSolver<Eigen::Matrix<T, n, n>> solver;
+        Eigen::EigenSolver<Decomposed<T, n, n, Eigen::ColMajor>> solver;
         for (long k = begin; k < end; ++k) {
             solver.compute(source.at(k), hasVectors);
             Eigen::Map<Vector<T, n>>(re + k * n) = solver.eigenvalues().real();
             Eigen::Map<Vector<T, n>>(im + k * n) = solver.eigenvalues().imag();
             if constexpr (hasVectors) {
-                Eigen::Map<M>(vectors + k * n * n) = solver.pseudoEigenvectors();
+                Eigen::Map<M>(vectors + k * n * n, n, n) = solver.pseudoEigenvectors();
             }
         }
     });
@@ -67,8 +68,10 @@ void addOrder(PeerTable &table, const std::string &type) {
     table.push_back({"EigenValuesVectorsRight_ma" + size, runGeneral<T, n, true>});
 }
 
+} // namespace
+
 template <class T>
-void addType(PeerTable &table, const std::string &type) {
+void addEigenproblems(PeerTable &table, const std::string &type) {
     addOrder<T, 3>(table, type);
     addOrder<T, 4>(table, type);
     addOrder<T, 6>(table, type);
@@ -76,13 +79,6 @@ void addType(PeerTable &table, const std::string &type) {
     addOrder<T, 16>(table, type);
     table.push_back({"EigenValuesSym_ma_" + type + "/3x3-direct", runSymmetric<T, 3, false, true>});
     table.push_back({"EigenValuesVectorsSym_ma_" + type + "/3x3-direct", runSymmetric<T, 3, true, true>});
-}
-
-} // namespace
-
-void addEigenproblems(PeerTable &table) {
-    addType<float>(table, "32f");
-    addType<double>(table, "64f");
 }
 
 } // namespace lxpm::bench::eigen

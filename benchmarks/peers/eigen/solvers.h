@@ -1,5 +1,6 @@
 // Copyright (c) 2026 The lxpm authors
 // SPDX-License-Identifier: MIT
+#pragma once
 
 #include "blocks.h"
 #include "peers/eigen/families.h"
@@ -15,7 +16,7 @@ namespace lxpm::bench::eigen {
 namespace {
 
 template <class T, int height, int width>
-using Tall = Eigen::Matrix<T, height, width, width == 1 ? Eigen::ColMajor : Eigen::RowMajor>;
+using Tall = Decomposed<T, height, width, Eigen::RowMajor>;
 
 // Matrices and their decompositions are prepared by a kernel's first run, which is not measured.
 template <class Decomposition, class M>
@@ -31,7 +32,7 @@ struct Prepared {
         }
         source = operands.src1;
         count = operands.count;
-        matrices = goodMatrices<typename M::Scalar>(source, M::RowsAtCompileTime, M::ColsAtCompileTime, count);
+        matrices = goodMatrices<typename M::Scalar>(source, M::MaxRowsAtCompileTime, M::MaxColsAtCompileTime, count);
         decompositions.clear();
         for (long k = 0; k < count; ++k) {
             decompositions.emplace_back(matrix(k));
@@ -61,9 +62,9 @@ void runSolve(const PeerOperands &operands) {
     static Prepared<Decomposition, M> prepared;
     prepared.prepare(operands);
     using T = typename M::Scalar;
-    const Array<Vector<T, M::RowsAtCompileTime>> right(operands.src2);
+    const Array<Vector<T, M::MaxRowsAtCompileTime>> right(operands.src2);
     for (long k = 0; k < operands.count; ++k) {
-        Eigen::Map<Vector<T, M::ColsAtCompileTime>>(static_cast<T *>(operands.dst) + k * M::ColsAtCompileTime) =
+        Eigen::Map<Vector<T, M::MaxColsAtCompileTime>>(static_cast<T *>(operands.dst) + k * M::MaxColsAtCompileTime) =
             prepared.decompositions[single ? 0 : k].solve(right.at(k));
     }
 }
@@ -88,8 +89,8 @@ void runInvert(const PeerOperands &operands) {
     static Prepared<NoDecomposition, M> prepared;
     prepared.prepare(operands);
     for (long k = 0; k < operands.count; ++k) {
-        Eigen::Map<M>(static_cast<typename M::Scalar *>(operands.dst) + k * M::SizeAtCompileTime) =
-            prepared.matrix(k).inverse();
+        Eigen::Map<M>(static_cast<typename M::Scalar *>(operands.dst) + k * M::MaxSizeAtCompileTime,
+                      M::MaxRowsAtCompileTime, M::MaxColsAtCompileTime) = prepared.matrix(k).inverse();
     }
 }
 
@@ -109,7 +110,7 @@ void addQR(PeerTable &table, const std::string &type) {
 
 template <class T, int n>
 void addOrder(PeerTable &table, const std::string &type) {
-    using M = Matrix<T, n>;
+    using M = Tall<T, n, n>;
     const std::string size = "_" + type + "/" + std::to_string(n) + "x" + std::to_string(n);
     addDecomposition<M, Eigen::PartialPivLU<M>, false>(table, "LU", size);
     addDecomposition<M, Eigen::LLT<M>, true>(table, "Cholesky", size);
@@ -118,18 +119,18 @@ void addOrder(PeerTable &table, const std::string &type) {
     addQR<T, n, n>(table, type);
 }
 
-// Matrices of known order 16 take the compiler many minutes and gigabytes: these sizes have no peer.
 template <class T, int... n>
-void addType(PeerTable &table, const std::string &type) {
+void addOrders(PeerTable &table, const std::string &type) {
     (addOrder<T, n>(table, type), ...);
     addQR<T, 6, 4>(table, type);
+    addQR<T, 16, 8>(table, type);
 }
 
 } // namespace
 
-void addSolvers(PeerTable &table) {
-    addType<float, 3, 4, 5, 6, 8>(table, "32f");
-    addType<double, 3, 4, 5, 6, 8>(table, "64f");
+template <class T>
+void addSolvers(PeerTable &table, const std::string &type) {
+    addOrders<T, 3, 4, 5, 6, 8, 16>(table, type);
 }
 
 } // namespace lxpm::bench::eigen

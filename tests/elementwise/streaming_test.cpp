@@ -1,0 +1,119 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+
+// Results that outgrow the caches are written past them. Machines with small caches make that happen with little
+// memory.
+
+#include "checks/placements.h"
+#include "support/cache_size.h"
+#include "support/call.h"
+#include "support/thread_count.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace lxpm::test {
+
+namespace {
+
+bool isMapped(const Model &model) {
+    return model.operation == "Add" || model.operation == "Sub" || model.operation == "Saxpy" ||
+           model.operation == "LComb";
+}
+
+/// More than any first cache holds.
+constexpr int largeBytes = 40 * 1024;
+
+int largeCount(const Model &model, const Shape &shape) {
+    int elements = 1;
+    for (const int size : shape) {
+        elements *= size;
+    }
+    return model.hasCount ? largeBytes / (elements * sizeOf(model.type)) + 1 : 1;
+}
+
+/// Turned in blocks, whose rows are too short to be streamed.
+bool hasTransposed(const Model &model) {
+    return std::any_of(model.operands.begin(), model.operands.end(),
+                       [](const Operand &operand) { return operand.kind == Kind::Transposed; });
+}
+
+/// With the destination at `shift` elements from a guard page, and the sources elsewhere in their registers.
+void callShifted(const Export &item, const Shape &shape, int count, int shift, Report &report) {
+    const int elementsOfRegister = 32 / sizeOf(item.model.type);
+    std::vector<Placement> placements = combination(item.model, 0);
+    for (auto placement = placements.rbegin(); placement != placements.rend(); ++placement) {
+        placement->shift = shift % elementsOfRegister;
+        shift += 3;
+    }
+    Call call(item, shape, count, placements);
+    call.fill(distinctValues(item.model.type));
+    call.verifyResults(report);
+}
+
+void expectSound(const Report &report) {
+    EXPECT_GT(report.cases(), 0);
+    for (const std::string &complaint : report.complaints()) {
+        ADD_FAILURE() << complaint;
+    }
+}
+
+} // namespace
+
+TEST(Streaming, GivesTheSameResults) {
+    setThreadCount(1);
+    const std::vector<const Export *> exports = exportsThat(isMapped);
+    ASSERT_GT(exports.size(), 200u);
+    for (const Export *item : exports) {
+        const Model &model = item->model;
+        const CacheSize machine(1);
+        Report report;
+        int shift = 0;
+        for (const Shape &shape : model.axes->small) {
+            callShifted(*item, shape, largeCount(model, shape), shift++, report);
+        }
+        for (; shift < 32 / sizeOf(model.type); ++shift) {
+            callShifted(*item, model.axes->small.front(), largeCount(model, model.axes->small.front()), shift, report);
+        }
+        const int side = model.dimensions() == 1 ? largeBytes : 104;
+        callShifted(*item, Shape(model.dimensions(), side), 1, 1, report);
+        expectSound(report);
+        EXPECT_TRUE(machine.questions() > 0 || hasTransposed(model)) << model.name;
+    }
+}
+
+TEST(Streaming, WantsACacheThatIsTooSmall) {
+    setThreadCount(1);
+    for (const int cacheSize : {0, std::numeric_limits<int>::max()}) {
+        const CacheSize machine(cacheSize);
+        for (const Export *item : exportsThat(isMapped)) {
+            Report report;
+            const Shape &shape = item->model.axes->small.front();
+            callShifted(*item, shape, largeCount(item->model, shape), 0, report);
+            expectSound(report);
+        }
+    }
+}
+
+TEST(Streaming, IsSharedByThreads) {
+    const CacheSize machine(1);
+    for (const Export *item : exportsThat([](const Model &model) { return isMapped(model) && model.parallel; })) {
+        const Shape &shape = item->model.axes->small.back();
+        Report report;
+        for (const int threads : {2, 3, 4, 7}) {
+            setThreadCount(threads);
+            std::vector<Placement> placements = combination(item->model, 0);
+            scatter(placements, threads);
+            Call call(*item, shape, 8 * largeCount(item->model, shape), placements);
+            call.fill(distinctValues(item->model.type));
+            call.verifyResults(report);
+        }
+        expectSound(report);
+    }
+}
+
+} // namespace lxpm::test
