@@ -22,6 +22,7 @@ struct Work {
     int width;
     int height;
     int count;
+    int matrixCount;
     std::vector<T> matrices;
     std::vector<T> factors;
     std::vector<int> index;
@@ -53,19 +54,19 @@ using Function = std::function<LxpStatus(Work<T> &)>;
 template <class T>
 Function<T> factorLU() {
     return LXPM_BENCH_CALL(lxpmLUDecomp_ma, w.matrices.data(), w.object(), w.row(), size, w.index.data(),
-                           w.factors.data(), w.object(), w.row(), size, w.width, w.count);
+                           w.factors.data(), w.object(), w.row(), size, w.width, w.matrixCount);
 }
 
 template <class T>
 Function<T> factorCholesky() {
     return LXPM_BENCH_CALL(lxpmCholeskyDecomp_ma, w.matrices.data(), w.object(), w.row(), size, w.factors.data(),
-                           w.object(), w.row(), size, w.width, w.count);
+                           w.object(), w.row(), size, w.width, w.matrixCount);
 }
 
 template <class T>
 Function<T> factorQR() {
     return LXPM_BENCH_CALL(lxpmQRDecomp_ma, w.matrices.data(), w.object(), w.row(), size, w.buffer.data(),
-                           w.factors.data(), w.object(), w.row(), size, w.width, w.height, w.count);
+                           w.factors.data(), w.object(), w.row(), size, w.width, w.height, w.matrixCount);
 }
 
 enum class Results { Compared, OfAnotherForm };
@@ -76,13 +77,14 @@ void append(std::vector<Case> &cases, const std::string &name, int height, int w
             std::size_t written, Results results, Function<T> before, Function<T> measured) {
     const Setting &setting = cacheSetting();
     const auto count = static_cast<int>(std::max<std::size_t>(8, setting.bytes / ((read + written) * sizeof(T))));
+    const int matrixCount = name.ends_with("_mva") ? 1 : count;
     const auto prepare = [=](const Memory &memory) -> Call {
-        const std::size_t elements = std::size_t(height) * width * count;
+        const std::size_t elements = std::size_t(height) * width * matrixCount;
         auto work = std::make_shared<Work<T>>(
-            Work<T>{width, height, count, goodMatrices<T>(memory.source1(), height, width, count),
-                    std::vector<T>(elements), std::vector<int>(std::size_t(width) * count), std::vector<T>(height),
-                    static_cast<const T *>(memory.source1()), static_cast<const T *>(memory.source2()),
-                    static_cast<T *>(memory.result())});
+            Work<T>{width, height, count, matrixCount, goodMatrices<T>(memory.source1(), height, width, matrixCount),
+                    std::vector<T>(elements), std::vector<int>(std::size_t(width) * matrixCount),
+                    std::vector<T>(height), static_cast<const T *>(memory.source1()),
+                    static_cast<const T *>(memory.source2()), static_cast<T *>(memory.result())});
         if (before) {
             before(*work);
         }

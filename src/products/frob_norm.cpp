@@ -44,7 +44,7 @@ LxpStatus FrobNormMember<operands, T, memory>::run(const Arguments &arguments) {
     if constexpr (isArray) {
         parallel = rowOf<FrobNormMember, thresholds>.isParallel(Work(width) * height * count, source.isContiguous());
     }
-    const bool isSplit = layout != Layout::ElementPointers && source.isContiguous() && width >= shortestSplit;
+    const bool isSplit = layout != Layout::ElementPointers && source.isContiguous() && isSplitRow(width);
     return sumProducts<T, RootOfSum, 1>(parallel, isSplit, count, height, width,
                                         {{source.addresses(height, width)}, results.first});
 }

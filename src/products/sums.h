@@ -6,16 +6,19 @@
 // A sum starts from +0 and goes by rows in one of two orders, whatever else is computed beside it:
 //
 //   ascending   one term after the other; alone, or with one object in each lane
-//   split       term j of a row is added to partial sum j mod P, P = 32 for float and 16 for double; then the upper
-//               half of the partial sums is added to the lower half until one is left
+//   split       term j of a row is added to partial sum j mod P, P = 32 for float and 16 for double, in every second
+//               row to (j + P / 2) mod P; then the upper half of the partial sums is added to the lower half until one
+//               is left
 //
 // so that an object's sum does not depend on its place in the array, the number of objects or of threads.
 
 #include "products/readers.h"
+#include "runtime/object_walk.h"
 #include "runtime/parallel.h"
 
 #include <array>
 #include <cstddef>
+#include <tuple>
 #include <utility>
 
 namespace lxpm {
@@ -35,8 +38,13 @@ struct RootOfSum {
     }
 };
 
-// Rows of this length and above are split where their elements touch.
+// Vectors of this length and above are split where their elements touch.
 inline constexpr int shortestSplit = 16;
+
+// Rows of a matrix share the work of adding the partial sums. Shorter ones are split as well, but for their scraps.
+constexpr bool isSplitRow(int length) {
+    return length >= shortestSplit || (length >= 8 && length % 4 == 0);
+}
 
 template <class T, std::size_t sources>
 struct SumOperands {
@@ -57,20 +65,14 @@ class Sums {
 public:
     using Operands = SumOperands<T, sources>;
 
-    static void split(const Operands &shared, int rows, int columns, int objects) {
-        const Operands operands = shared; // a copy that no store below can reach
-        std::ptrdiff_t object = 0;
-        for (; object + groupSize<T> <= objects; object += groupSize<T>) {
-            std::array<Group<T>, groupSize<T>> partial;
-#pragma GCC unroll 1
-            for (int i = 0; i < groupSize<T>; ++i) {
-                partial[i] = splitSum(operands.src, rows, columns, object + i, Index());
-            }
-            Finish()(sumsOverLanes(partial)).store(operands.dst + object);
+    static void split(const Operands &operands, int rows, int columns, int objects) {
+        bool byBytes = true;
+        for (const auto &source : operands.src) {
+            byBytes &= source.pointerStep[0] == 0;
         }
-        for (; object < objects; ++object) {
-            operands.dst[object] = Finish()(sumOverLanes(splitSum(operands.src, rows, columns, object, Index())));
-        }
+        const Split chosen = byBytes ? chooseColumns<Walking::ByBytes>(columns, Lengths())
+                                     : chooseColumns<Walking::ThroughPointers>(columns, Lengths());
+        chosen(operands, rows, columns, objects);
     }
 
     static void ascending(const Operands &operands, int rows, int columns, int objects) {
@@ -102,14 +104,65 @@ private:
 
     // Split.
 
-    template <std::size_t... s>
-    [[gnu::always_inline]] static Group<T> splitSum(const std::array<Addresses<const T>, sources> &src, int rows,
-                                                    std::ptrdiff_t columns, std::ptrdiff_t object,
+    template <Walking walking, std::size_t>
+    using WalkOf = ObjectWalk<const T, walking>;
+
+    using Split = void (*)(const Operands &, int rows, int columns, int objects);
+
+    // Short rows whose lengths the compiler knows: they are written out.
+    using Lengths = std::integer_sequence<int, 8, 12, 16, 32, 64>;
+
+    template <Walking walking, int... length>
+    static Split chooseColumns(int columns, std::integer_sequence<int, length...>) {
+        Split chosen = splitWalking<walking, 0>;
+        ((columns == length ? void(chosen = splitWalking<walking, length>) : void()), ...);
+        return chosen;
+    }
+
+    // Columns: their number where it is known beforehand, else 0.
+    template <Walking walking, int Columns>
+    static void splitWalking(const Operands &operands, int rows, int columns, int objects) {
+        splitObjects<walking>(operands, rows, Columns != 0 ? Columns : columns, objects, Index());
+    }
+
+    template <Walking walking, std::size_t... s>
+    [[gnu::always_inline]] static void splitObjects(const Operands &shared, int rows, int columns, int objects,
                                                     std::index_sequence<s...>) {
+        const Operands operands = shared; // a copy that no store below can reach
+        std::tuple<WalkOf<walking, s>...> walks(operands.src[s]...);
+        const auto next = [&]() __attribute__((always_inline)) {
+            const Group<T> sum = splitSum(rows, columns, {operands.src[s].step[1]...}, std::get<s>(walks).object()...);
+            (std::get<s>(walks).next(), ...);
+            return sum;
+        };
+        std::ptrdiff_t object = 0;
+        for (; object + groupSize<T> <= objects; object += groupSize<T>) {
+            std::array<Group<T>, groupSize<T>> partial;
+#pragma GCC unroll 1
+            for (int i = 0; i < groupSize<T>; ++i) {
+                partial[i] = next();
+            }
+            Finish()(sumsOverLanes(partial)).store(operands.dst + object);
+        }
+        for (; object < objects; ++object) {
+            operands.dst[object] = Finish()(sumOverLanes(next()));
+        }
+    }
+
+    // Of one object, whose rows start at src.
+    template <class... Pointers>
+    [[gnu::always_inline]] static Group<T>
+    splitSum(int rows, std::ptrdiff_t columns, std::array<std::ptrdiff_t, sources> rowStep, const Pointers *...src) {
         std::array<Group<T>, 4> partial = {Group<T>::splat(0), Group<T>::splat(0), Group<T>::splat(0),
                                            Group<T>::splat(0)};
+#pragma GCC unroll 2
         for (int row = 0; row < rows; ++row) {
-            addRow(partial, columns, src[s].at(object, row, 0)...);
+            addRow(partial, columns, src...);
+            // So that short rows too keep all registers busy.
+            std::swap(partial[0], partial[2]);
+            std::swap(partial[1], partial[3]);
+            std::size_t source = 0;
+            ((src = shifted(src, rowStep[source++])), ...);
         }
         return (partial[0] + partial[2]) + (partial[1] + partial[3]);
     }

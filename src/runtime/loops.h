@@ -101,8 +101,8 @@ private:
         }
     }
 
-    // Vectors and rows of orders 3 to 6, and whole matrices of these orders whose rows touch, are unrolled. (A matrix
-    // has no constant beside it.)
+    // Vectors and rows of orders 3 to 6 and 8, and whole matrices of these orders whose rows touch, are unrolled. (A
+    // matrix has no constant beside it.)
     template <Moves... moves>
     static Loop chooseLength(const Nest &nest) {
         const std::ptrdiff_t n = nest.extent[2];
@@ -123,6 +123,8 @@ private:
             return inRegisters<5, moves...>;
         case 6:
             return inRegisters<6, moves...>;
+        case 8:
+            return inRegisters<8, moves...>;
         }
         if constexpr (((moves == Moves::Along) && ...)) {
             switch (n) {

@@ -41,7 +41,7 @@ void mapScattered(const F &f, Nest<T, sources> nest) {
 // The objects of an array whose elements all touch make one long run, but not together with a single object that is
 // used with each of them: there, each small object would end in scraps of registers. So the single object is written
 // side by side until it fills whole registers, and used with that many objects at a time. Where these registers are few
-// they stay loaded; otherwise, and where results are streamed, the tile is made longer and read again and again.
+// they stay loaded; otherwise, and where results are streamed, the tile is made long and read again and again.
 template <class T, std::size_t sources>
 class Tiling {
 public:
@@ -79,10 +79,9 @@ public:
         const std::ptrdiff_t registers = fewestObjects * n / fullLanes<T>;
         const bool isStreamed = outgrowsCaches(objects * n * static_cast<std::ptrdiff_t>(sizeof(T)));
         const bool staysLoaded = !isStreamed && registers <= mostRegisters && othersTouch(nest, tiled);
-        const std::ptrdiff_t objectsPerTile =
-            staysLoaded ? fewestObjects : longTile(n, fewestObjects, isStreamed ? shortestStreamed : shortestTile);
+        const std::ptrdiff_t objectsPerTile = staysLoaded ? fewestObjects : longTile(n, fewestObjects);
 
-        T tile[largestObject * fullLanes<T> + shortestStreamed];
+        T tile[largestObject * fullLanes<T> + shortestTile];
         Addresses<const T> &source = nest.operand.src[tiled];
         const T *object = source.at(0, 0, 0);
         for (std::ptrdiff_t i = 0; i < objectsPerTile; ++i) {
@@ -109,8 +108,7 @@ private:
     static constexpr int mostRegisters = 9;             // that leave room for what is read
     static constexpr std::ptrdiff_t enough = 32;        // objects, for the tile to pay
     static constexpr std::ptrdiff_t largestObject = 64; // elements; in larger ones the scraps do not matter
-    static constexpr std::ptrdiff_t shortestTile = 64;  // elements; with shorter ones the time goes between the runs
-    static constexpr std::ptrdiff_t shortestStreamed = shortestStream / sizeof(T); // elements
+    static constexpr std::ptrdiff_t shortestTile = shortestStream / sizeof(T); // elements
 
     static bool othersTouch(const Nest<T, sources> &nest, std::size_t tiled) {
         bool all = true;
@@ -125,8 +123,8 @@ private:
         return operand.step[2] == sizeof(T) && operand.step[1] == n * operand.step[2];
     }
 
-    static std::ptrdiff_t longTile(std::ptrdiff_t n, std::ptrdiff_t fewestObjects, std::ptrdiff_t shortest) {
-        const std::ptrdiff_t wanted = (shortest + n - 1) / n;
+    static std::ptrdiff_t longTile(std::ptrdiff_t n, std::ptrdiff_t fewestObjects) {
+        const std::ptrdiff_t wanted = (shortestTile + n - 1) / n;
         return (wanted + fewestObjects - 1) / fewestObjects * fewestObjects;
     }
 

@@ -99,6 +99,15 @@ void expectValue(const E &result, int row, int column, T value) {
 
 constexpr int shortestSplit = 16;
 
+bool isSplitVector(int length) {
+    return length >= shortestSplit;
+}
+
+/// Of a matrix.
+bool isSplitRow(int length) {
+    return length >= shortestSplit || length == 8 || length == 12;
+}
+
 // The documented order of sums: ascending by rows, or by rows over partial sums.
 template <class T, class Term>
 T sumOf(int rows, int columns, bool isSplit, Term term) {
@@ -115,7 +124,7 @@ T sumOf(int rows, int columns, bool isSplit, Term term) {
     std::vector<T> partial(width);
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
-            T &sum = partial[column % width];
+            T &sum = partial[(column + row % 2 * width / 2) % width];
             sum = sum + term(row, column);
         }
     }
@@ -128,8 +137,8 @@ T sumOf(int rows, int columns, bool isSplit, Term term) {
 }
 
 template <class T>
-T norm(const Elements<T> &source) {
-    const bool isSplit = source.isContiguous() && source.columns() >= shortestSplit;
+T norm(const Elements<T> &source, bool (*splits)(int)) {
+    const bool isSplit = source.isContiguous() && splits(source.columns());
     return std::sqrt(sumOf<T>(source.rows(), source.columns(), isSplit, [&](int row, int column) {
         const T element = source(row, column);
         return element * element;
@@ -137,9 +146,11 @@ T norm(const Elements<T> &source) {
 }
 
 struct Norm {
+    bool (*splits)(int length);
+
     template <class T>
     void operator()(std::span<const Elements<T>> operands) const {
-        expectValue(operands[1], 0, 0, norm(operands[0]));
+        expectValue(operands[1], 0, 0, norm(operands[0], splits));
     }
 };
 
@@ -148,7 +159,7 @@ struct InnerProduct {
     void operator()(std::span<const Elements<T>> operands) const {
         const Elements<T> &a = operands[0];
         const Elements<T> &b = operands[1];
-        const bool isSplit = a.isContiguous() && b.isContiguous() && a.columns() >= shortestSplit;
+        const bool isSplit = a.isContiguous() && b.isContiguous() && isSplitVector(a.columns());
         const auto term = [&](int row, int column) { return a(row, column) * b(row, column); };
         expectValue(operands[2], 0, 0, sumOf<T>(1, a.columns(), isSplit, term));
     }
@@ -205,7 +216,7 @@ Model describeDotProduct(const ExportName &name) {
     model.axes = &vectorSizes;
     model.formula = formula(InnerProduct());
     model.isExactForWholeNumbers = false;
-    model.splitsContiguousSums = [](const Shape &shape) { return shape[0] >= shortestSplit; };
+    model.splitsContiguousSums = [](const Shape &shape) { return isSplitVector(shape[0]); };
     if (model.hasCount) {
         const Limits &limits = findLimits(dotProductLimits, name);
         model.parallel =
@@ -251,9 +262,9 @@ Model describeL2Norm(const ExportName &name) {
     model.operands = {vectorOf("src", model.hasCount, 0), results(model.hasCount)};
     model.sizes = {{"len", 0, 1}};
     model.axes = &vectorSizes;
-    model.formula = formula(Norm());
+    model.formula = formula(Norm{isSplitVector});
     model.isExactForWholeNumbers = false;
-    model.splitsContiguousSums = [](const Shape &shape) { return shape[0] >= shortestSplit; };
+    model.splitsContiguousSums = [](const Shape &shape) { return isSplitVector(shape[0]); };
     if (model.hasCount) {
         model.parallel =
             ruleOf([](const Shape &shape, std::uint32_t count) { return sizeAt(shape, 0) * count; }, 1501, 1501);
@@ -266,9 +277,9 @@ Model describeFrobNorm(const ExportName &name) {
     model.operands = {matrixOf("src", model.hasCount, 1, 0), results(model.hasCount)};
     model.sizes = {{"width", 0, 0}, {"height", 1, 0}};
     model.axes = &summedMatrixSizes;
-    model.formula = formula(Norm());
+    model.formula = formula(Norm{isSplitRow});
     model.isExactForWholeNumbers = false;
-    model.splitsContiguousSums = [](const Shape &shape) { return shape[0] >= shortestSplit; };
+    model.splitsContiguousSums = [](const Shape &shape) { return isSplitRow(shape[0]); };
     if (model.hasCount) {
         const Limits &limits = findLimits(frobNormLimits, name);
         model.parallel =

@@ -85,8 +85,8 @@ const SizeAxes vectorSizes = {
 };
 
 const SizeAxes summedMatrixSizes = {
-    .all = join({matrixSizes.all, {{64, 2}, {47, 3}, {15, 9}}}),
-    .small = join({aroundUnrolled, {{16, 2}, {17, 3}}}),
+    .all = join({matrixSizes.all, {{64, 2}, {47, 3}, {15, 9}, {7, 8}, {8, 8}, {9, 7}, {12, 5}, {12, 12}}}),
+    .small = join({aroundUnrolled, {{8, 3}, {16, 2}, {17, 3}}}),
     .tight = matrixSizes.tight,
     .special = matrixSizes.special,
 };

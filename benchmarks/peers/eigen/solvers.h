@@ -26,12 +26,12 @@ struct Prepared {
     std::vector<typename M::Scalar> matrices;
     std::vector<Decomposition> decompositions;
 
-    void prepare(const PeerOperands &operands) {
-        if (source == operands.src1 && count == operands.count) {
+    void prepare(const PeerOperands &operands, long matrixCount) {
+        if (source == operands.src1 && count == matrixCount) {
             return;
         }
         source = operands.src1;
-        count = operands.count;
+        count = matrixCount;
         matrices = goodMatrices<typename M::Scalar>(source, M::MaxRowsAtCompileTime, M::MaxColsAtCompileTime, count);
         decompositions.clear();
         for (long k = 0; k < count; ++k) {
@@ -46,7 +46,7 @@ struct Prepared {
 template <class Decomposition, class M, bool good>
 void runFactor(const PeerOperands &operands) {
     static Prepared<Decomposition, M> prepared;
-    prepared.prepare(operands);
+    prepared.prepare(operands, operands.count);
     const Array<M> numbers(operands.src1);
     for (long k = 0; k < operands.count; ++k) {
         if constexpr (good) {
@@ -60,7 +60,7 @@ void runFactor(const PeerOperands &operands) {
 template <class Decomposition, class M, bool single>
 void runSolve(const PeerOperands &operands) {
     static Prepared<Decomposition, M> prepared;
-    prepared.prepare(operands);
+    prepared.prepare(operands, single ? 1 : operands.count);
     using T = typename M::Scalar;
     const Array<Vector<T, M::MaxRowsAtCompileTime>> right(operands.src2);
     for (long k = 0; k < operands.count; ++k) {
@@ -78,7 +78,7 @@ struct NoDecomposition {
 template <class M>
 void runDet(const PeerOperands &operands) {
     static Prepared<NoDecomposition, M> prepared;
-    prepared.prepare(operands);
+    prepared.prepare(operands, operands.count);
     for (long k = 0; k < operands.count; ++k) {
         static_cast<typename M::Scalar *>(operands.dst)[k] = prepared.matrix(k).determinant();
     }
@@ -87,7 +87,7 @@ void runDet(const PeerOperands &operands) {
 template <class M>
 void runInvert(const PeerOperands &operands) {
     static Prepared<NoDecomposition, M> prepared;
-    prepared.prepare(operands);
+    prepared.prepare(operands, operands.count);
     for (long k = 0; k < operands.count; ++k) {
         Eigen::Map<M>(static_cast<typename M::Scalar *>(operands.dst) + k * M::MaxSizeAtCompileTime,
                       M::MaxRowsAtCompileTime, M::MaxColsAtCompileTime) = prepared.matrix(k).inverse();

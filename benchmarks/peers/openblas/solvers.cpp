@@ -89,12 +89,12 @@ class Systems {
     static constexpr int area = height * width;
 
 public:
-    void prepare(const PeerOperands &operands, bool asTheyStand) {
-        if (source == operands.src1 && count == operands.count) {
+    void prepare(const PeerOperands &operands, bool asTheyStand, long matrixCount) {
+        if (source == operands.src1 && count == matrixCount) {
             return;
         }
         source = operands.src1;
-        count = operands.count;
+        count = matrixCount;
         const auto *numbers = static_cast<const T *>(source);
         const std::vector<T> rows = asTheyStand ? std::vector<T>(numbers, numbers + count * area)
                                                 : goodMatrices<T>(source, height, width, count);
@@ -150,14 +150,14 @@ private:
 template <class T, Method method, int height, int width>
 void runFactor(const PeerOperands &operands) {
     static Systems<T, method, height, width> systems;
-    systems.prepare(operands, method != Method::Cholesky);
+    systems.prepare(operands, method != Method::Cholesky, operands.count);
     systems.factor();
 }
 
 template <class T, Method method, int height, int width>
 void runSolve(const PeerOperands &operands) {
     static Systems<T, method, height, width> systems;
-    systems.prepare(operands, false);
+    systems.prepare(operands, false, operands.count);
     const T *right = static_cast<const T *>(operands.src2);
     T *dst = static_cast<T *>(operands.dst);
     for (long k = 0; k < operands.count; ++k) {
@@ -168,12 +168,12 @@ void runSolve(const PeerOperands &operands) {
     }
 }
 
-// All right-hand sides in one call.
+// All right-hand sides of one matrix in one call.
 template <class T, Method method, int height, int width>
 void runSolveAll(const PeerOperands &operands) {
     static Systems<T, method, height, width> systems;
     static std::vector<T> b;
-    systems.prepare(operands, false);
+    systems.prepare(operands, false, 1);
     const T *right = static_cast<const T *>(operands.src2);
     T *dst = static_cast<T *>(operands.dst);
     if constexpr (height == width) {
