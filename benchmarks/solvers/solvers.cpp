@@ -76,7 +76,9 @@ template <class T>
 void append(std::vector<Case> &cases, const std::string &name, int height, int width, std::size_t read,
             std::size_t written, Results results, Function<T> before, Function<T> measured) {
     const Setting &setting = cacheSetting();
-    const auto count = static_cast<int>(std::max<std::size_t>(8, setting.bytes / ((read + written) * sizeof(T))));
+    // Each operand has half of the memory to stand in.
+    const auto count =
+        static_cast<int>(std::max<std::size_t>(8, setting.bytes / 2 / (std::max(read, written) * sizeof(T))));
     const int matrixCount = name.ends_with("_mva") ? 1 : count;
     const auto prepare = [=](const Memory &memory) -> Call {
         const std::size_t elements = std::size_t(height) * width * matrixCount;
