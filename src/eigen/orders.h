@@ -58,13 +58,15 @@ inline LxpStatus overGroups(int first, int count, const Wide &wide, const Group 
         status.record(wide(first + object));
     }
     const int left = count - object;
-    if (left > lanes && count >= 2 * lanes) {
+    if (left > lanes && object > 0) {
         status.record(wide(first + count - 2 * lanes));
-    } else if (left > 0) {
-        status.record(group(first + object - (left < lanes ? lanes - left : 0)));
-        if (left > lanes) {
-            status.record(group(first + count - lanes));
-        }
+        return status.get();
+    }
+    if (left > lanes) {
+        status.record(group(first));
+    }
+    if (left > 0) {
+        status.record(group(first + count - lanes));
     }
     return status.get();
 }

@@ -189,20 +189,19 @@ private:
 };
 
 // The eigenvalues of the tridiagonal matrix d, e, found in ascending order of their place in d; rows of z are rotated
-// with them unless it is null. Returns where the iteration did not converge, and leaves `product`, that of the
-// eigenvalues. Such a lane of several, or one that takes long, ends the iteration for all.
+// with them unless it is null. Returns where the iteration did not converge. Such a lane of several, or one that takes
+// long, ends the iteration for all.
 //
 // Each lane is at an eigenvalue of its own. What is in front of it is negligible and stays so: the first element that
 // is not says where a lane is.
 template <int most, class Order, class V, class Line>
-[[gnu::always_inline]] inline MaskOf<V> iterate(Order order, V *d, Line &&e, V *z, V &product) {
+[[gnu::always_inline]] inline MaskOf<V> iterate(Order order, V *d, Line &&e, V *z) {
     using T = ElementOf<V>;
     const V zero = constant<V>(0);
     const V one = constant<V>(1);
     const V eps = constant<V>(epsilon<T>);
     SweepLimit<V> limit;
-    product = one;
-    int lowest = 0; // place of all lanes
+    int lowest = 0; // of the places of all lanes
     for (;;) {
         // A lane's block ends in front of the first negligible element behind its place.
         StepMasks<V, most> block;
@@ -309,9 +308,6 @@ template <int most, class Order, class V, class Line>
             e[i] = choose(finishes, g, e[i]);
         }
     }
-    for (int i = 0; i < order; ++i) {
-        product = product * d[i];
-    }
     return everywhere<V>(false);
 }
 
@@ -360,8 +356,11 @@ template <int most, bool wantsVectors, class Order, class V, class Line>
     // The larger end of the diagonal comes first.
     const auto isMirrored = isLess(magnitude(d[0]), magnitude(d[order - 1]));
     mirror(isMirrored, order, d, e, z);
-    V product;
-    const auto unconverged = iterate<most>(order, d, e, z, product);
+    const auto unconverged = iterate<most>(order, d, e, z);
+    V product = constant<V>(1);
+    for (int i = 0; i < order && none(unconverged); ++i) {
+        product = product * d[i];
+    }
     mirror(isMirrored, order, d, e, z);
     const auto singular = isLessEqual(magnitude(product), constant<V>(epsilon<T>));
     return {unconverged, singular};

@@ -28,6 +28,12 @@ struct MatrixProduct {
     std::optional<Addresses<const T>> addend;
     Addresses<T> dst;
 
+    // Whether every operand moves from object to object by bytes.
+    bool walksByBytes() const {
+        return a.pointerStep[0] == 0 && b.pointerStep[0] == 0 && dst.pointerStep[0] == 0 &&
+               (!addend || addend->pointerStep[0] == 0);
+    }
+
     // The same product without what stands before an object.
     MatrixProduct from(std::ptrdiff_t object) const {
         MatrixProduct later = {rows, inner, columns, a.from(object), b.from(object), std::nullopt, dst.from(object)};

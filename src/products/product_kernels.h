@@ -25,9 +25,11 @@ void chooseUnrolledWalking(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     const bool singleB = p.b.isSingle();
     constexpr std::ptrdiff_t touching = Order * sizeof(T);
     if (p.rows == 1) {
-        if (singleB && walking == Walking::ByBytes && p.dst.step[0] == touching) {
-            return p.addend ? multiplyUnrolled<walking, T, Order, 1, Given{true, true, true}>(p, count)
-                            : multiplyUnrolled<walking, T, Order, 1, Given{true, true, false}>(p, count);
+        if constexpr (walking == Walking::ByBytes) {
+            if (singleB && p.dst.step[0] == touching) {
+                return p.addend ? multiplyUnrolled<walking, T, Order, 1, Given{true, true, true}>(p, count)
+                                : multiplyUnrolled<walking, T, Order, 1, Given{true, true, false}>(p, count);
+            }
         }
         if (p.addend) {
             return singleB ? multiplyUnrolled<walking, T, Order, 1, Given{true, false, true}>(p, count)
@@ -66,10 +68,8 @@ void chooseUnrolledWalking(const MatrixProduct<T> &p, std::ptrdiff_t count) {
 
 template <class T, int Order>
 void chooseUnrolled(const MatrixProduct<T> &p, std::ptrdiff_t count) {
-    const bool byBytes = p.a.pointerStep[0] == 0 && p.b.pointerStep[0] == 0 && p.dst.pointerStep[0] == 0 &&
-                         (!p.addend || p.addend->pointerStep[0] == 0);
-    return byBytes ? chooseUnrolledWalking<Walking::ByBytes, T, Order>(p, count)
-                   : chooseUnrolledWalking<Walking::ThroughPointers, T, Order>(p, count);
+    return p.walksByBytes() ? chooseUnrolledWalking<Walking::ByBytes, T, Order>(p, count)
+                            : chooseUnrolledWalking<Walking::ThroughPointers, T, Order>(p, count);
 }
 
 // Objects of an unrolled order in any layout: a few at a time, copied where the kernel cannot read or write them.
@@ -122,9 +122,7 @@ void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
 // Rows that are multiplied with the same matrix are those of one product.
 template <class T>
 void multiplyByPanels(MatrixProduct<T> p, std::ptrdiff_t count) {
-    const auto movesByBytes = [](const auto &operand) { return operand.pointerStep[0] == 0; };
-    if (p.rows == 1 && p.b.isSingle() && movesByBytes(p.a) && movesByBytes(p.dst) &&
-        (!p.addend || movesByBytes(*p.addend))) {
+    if (p.rows == 1 && p.b.isSingle() && p.walksByBytes()) {
         const auto asRows = [](auto &operand) {
             operand.step[1] = operand.step[0];
             operand.pointerStep[1] = 0;

@@ -18,8 +18,6 @@ namespace lxpm {
 // Vectors of three elements without gaps, one in each lane.
 class VectorsOfOrder3 {
 public:
-    static constexpr int step = groupSize<float>;
-
     static bool accepts(const MatrixProduct<float> &p) {
         return p.rows == 1 && p.b.isSingle() && isPacked(p.a) && isPacked(p.dst) &&
                (!p.addend || isPacked(*p.addend) || p.addend->isSingle());
@@ -71,7 +69,7 @@ private:
         const float *a = p.a.at(0, 0, 0);
         float *dst = p.dst.at(0, 0, 0);
         std::ptrdiff_t object = 0;
-        for (; object + step <= count; object += step) {
+        for (; object + groupSize<float> <= count; object += groupSize<float>) {
             const Vectors<3> vectors = read(a + 3 * object);
             Vectors<3> sums = {};
             for (int j = 0; j < 3; ++j) {
@@ -96,8 +94,7 @@ public:
 
     // All vectors but the last one of an odd number; returns their number.
     static std::ptrdiff_t run(const MatrixProduct<float> &p, std::ptrdiff_t count) {
-        const bool byBytes =
-            p.a.pointerStep[0] == 0 && p.dst.pointerStep[0] == 0 && (!p.addend || p.addend->pointerStep[0] == 0);
+        const bool byBytes = p.walksByBytes();
         if (p.addend) {
             return byBytes ? overPairs<Walking::ByBytes, true>(p, count)
                            : overPairs<Walking::ThroughPointers, true>(p, count);

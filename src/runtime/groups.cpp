@@ -55,8 +55,7 @@ GroupOperand<Element>::GroupOperand(const Addresses<Element> &operand, int heigh
     access = addresses.rowsTouch()                                            ? Access::RowsTouch
              : addresses.step[0] == size && addresses.pointerStep[0] == 0     ? Access::ObjectsTouch
              : addresses.movesByBytes() && addresses.transposed().rowsTouch() ? Access::ColumnsTouch
-             : addresses.movesByBytes()                                       ? Access::OneByOne
-                                                                              : Access::ThroughPointers;
+                                                                              : Access::OneByOne;
     isDense = access == Access::RowsTouch && (rows == 1 || addresses.step[1] == columns * size);
     isPlain = isDense && (addresses.pointers == nullptr || addresses.pointerStep == Steps{1, 0, 0});
 }
@@ -72,6 +71,7 @@ namespace {
 
 using detail::Access;
 using detail::GroupOperand;
+using detail::inLanes;
 using detail::loadSome;
 using detail::Pointers;
 using detail::storeSome;
@@ -107,47 +107,33 @@ template <class T>
     }
 }
 
-// Where the objects of a group and their elements stand, of an operand that moves by bytes inside of objects.
+// Where the elements of a group stand, of an operand that moves by bytes inside of objects.
 template <class Element>
 class Places {
 public:
     [[gnu::always_inline]] Places(const Addresses<Element> &operand, std::ptrdiff_t object)
-        : rowStep(operand.step[1]), columnStep(operand.step[2]) {
-        std::ptrdiff_t bytes = operand.offset + object * operand.step[0];
-#pragma GCC unroll 8
-        for (int lane = 0; lane < lanes; ++lane) {
-            start[lane] = shifted(
-                operand.pointers != nullptr ? operand.pointers[(object + lane) * operand.pointerStep[0]] : operand.base,
-                bytes);
-            bytes += operand.step[0];
-        }
-    }
+        : rowStep(operand.step[1]), columnStep(operand.step[2]), start(inLanes<Element>([&](std::ptrdiff_t lane) {
+              Element *const base = operand.pointers != nullptr
+                                        ? operand.pointers[(object + lane) * operand.pointerStep[0]]
+                                        : operand.base;
+              return shifted(base, operand.offset + (object + lane) * operand.step[0]);
+          })) {}
 
     // Of element (i, j).
     [[gnu::always_inline]] Pointers<Element> at(std::ptrdiff_t i, std::ptrdiff_t j) const {
-        Pointers<Element> to;
         const std::ptrdiff_t bytes = i * rowStep + j * columnStep;
-#pragma GCC unroll 8
-        for (int lane = 0; lane < lanes; ++lane) {
-            to[lane] = shifted(start[lane], bytes);
-        }
-        return to;
+        return inLanes<Element>([&](std::ptrdiff_t lane) { return shifted(start[lane], bytes); });
     }
 
     // Of another row in each object.
     [[gnu::always_inline]] Pointers<Element> atRow(const int *rowOf, std::ptrdiff_t rows, std::ptrdiff_t i,
                                                    std::ptrdiff_t j) const {
-        Pointers<Element> to;
-#pragma GCC unroll 8
-        for (std::ptrdiff_t lane = 0; lane < lanes; ++lane) {
-            to[lane] = shifted(start[lane], rowOf[lane * rows + i] * rowStep + j * columnStep);
-        }
-        return to;
+        return inLanes<Element>([&](std::ptrdiff_t lane) {
+            return shifted(start[lane], rowOf[lane * rows + i] * rowStep + j * columnStep);
+        });
     }
 
 private:
-    static constexpr int lanes = fullLanes<std::remove_const_t<Element>>;
-
     std::ptrdiff_t rowStep;
     std::ptrdiff_t columnStep;
     Pointers<Element> start;
@@ -162,28 +148,18 @@ public:
           offset(operand.offset + object * operand.step[0]), step(operand.step[0]) {}
 
     [[gnu::always_inline]] Pointers<Element> at(std::ptrdiff_t i, std::ptrdiff_t j) const {
-        Pointers<Element> to;
         Element *const first = shifted(pointers[i * pointerRow + j * pointerColumn], offset);
-#pragma GCC unroll 8
-        for (int lane = 0; lane < lanes; ++lane) {
-            to[lane] = shifted(first, lane * step);
-        }
-        return to;
+        return inLanes<Element>([&](std::ptrdiff_t lane) { return shifted(first, lane * step); });
     }
 
     [[gnu::always_inline]] Pointers<Element> atRow(const int *rowOf, std::ptrdiff_t rows, std::ptrdiff_t i,
                                                    std::ptrdiff_t j) const {
-        Pointers<Element> to;
-#pragma GCC unroll 8
-        for (std::ptrdiff_t lane = 0; lane < lanes; ++lane) {
-            to[lane] = shifted(pointers[rowOf[lane * rows + i] * pointerRow + j * pointerColumn], offset + lane * step);
-        }
-        return to;
+        return inLanes<Element>([&](std::ptrdiff_t lane) {
+            return shifted(pointers[rowOf[lane * rows + i] * pointerRow + j * pointerColumn], offset + lane * step);
+        });
     }
 
 private:
-    static constexpr int lanes = fullLanes<std::remove_const_t<Element>>;
-
     Element *const *pointers;
     std::ptrdiff_t pointerRow;
     std::ptrdiff_t pointerColumn;
@@ -243,53 +219,40 @@ constexpr int readableLengthOf(Part part, int row, int columns) {
     return part == Part::Whole ? columns : std::min(columns, (row / 4 + 1) * 4);
 }
 
-// Calls f(place in the group, element) with the elements of an object that moves by bytes, or through pointers.
-template <Part part, class Element, class F>
-[[gnu::always_inline]] inline void forEachPlace(const GroupOperand<Element> &operand, std::ptrdiff_t object, int rows,
-                                                int columns, const F &f) {
-    const Addresses<Element> a = operand.addresses;
-    const std::ptrdiff_t bytes = a.offset + object * a.step[0];
-    const bool movesByBytes = a.pointers == nullptr;
-    for (int i = 0; i < rows; ++i) {
-        Element *element = shifted(a.base, movesByBytes ? bytes + i * a.step[1] : 0);
-        Element *const *pointer = a.pointers + i * a.pointerStep[1];
-        for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-            f(i * columns + j, movesByBytes ? element : shifted(*pointer, bytes));
-            element = shifted(element, a.step[2]);
-            pointer += a.pointerStep[2];
-        }
-    }
-}
-
-// What has to be picked element by element.
-template <Part part, bool byIndex, class T>
-void pickGroup(const GroupOperand<const T> &from, std::ptrdiff_t object, Group<T> *to, const int *rowOf) {
-    const int rows = from.rows;
-    const int columns = from.columns;
-    const Addresses<const T> operand = from.addresses;
-    const auto pick = [&](const auto &places) __attribute__((always_inline)) {
+// Calls f(element of the group, where it stands in each object).
+template <Part part, bool byIndex, class Element, class F>
+[[gnu::always_inline]] inline void forEachElement(const GroupOperand<Element> &operand, std::ptrdiff_t object, int rows,
+                                                  int columns, const int *rowOf, const F &f) {
+    const Addresses<Element> addresses = operand.addresses;
+    const auto over = [&](const auto &places) __attribute__((always_inline)) {
         for (int i = 0; i < rows; ++i) {
             for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-                to[i * columns + j] = gathered<T>(byIndex ? places.atRow(rowOf, rows, i, j) : places.at(i, j));
+                f(i * columns + j, byIndex ? places.atRow(rowOf, rows, i, j) : places.at(i, j));
             }
         }
     };
-    operand.movesByBytes() ? pick(Places<const T>(operand, object)) : pick(PointedPlaces<const T>(operand, object));
+    addresses.movesByBytes() ? over(Places<Element>(addresses, object))
+                             : over(PointedPlaces<Element>(addresses, object));
+}
+
+// What has to be picked element by element. Functions of their own: known sizes would make them large, not fast.
+
+template <Part part, bool byIndex, class T>
+void pickGroup(const GroupOperand<const T> &from, std::ptrdiff_t object, Group<T> *to, const int *rowOf) {
+    forEachElement<part, byIndex>(
+        from, object, from.rows, from.columns,
+        rowOf, [=](int element, const Pointers<const T> &places) __attribute__((always_inline)) {
+            to[element] = gathered<T>(places);
+        });
 }
 
 template <Part part, bool byIndex, class T>
 void placeGroup(const GroupOperand<T> &to, std::ptrdiff_t object, const Group<T> *from, const int *rowOf) {
-    const int rows = to.rows;
-    const int columns = to.columns;
-    const Addresses<T> operand = to.addresses;
-    const auto place = [&](const auto &places) __attribute__((always_inline)) {
-        for (int i = 0; i < rows; ++i) {
-            for (int j = 0; j < lengthOf(part, i, columns); ++j) {
-                scatter<T>(from[i * columns + j], byIndex ? places.atRow(rowOf, rows, i, j) : places.at(i, j));
-            }
-        }
-    };
-    operand.movesByBytes() ? place(Places<T>(operand, object)) : place(PointedPlaces<T>(operand, object));
+    forEachElement<part, byIndex>(
+        to, object, to.rows, to.columns,
+        rowOf, [=](int element, const Pointers<T> &places) __attribute__((always_inline)) {
+            scatter<T>(from[element], places);
+        });
 }
 
 // Rows, Columns: the sizes where they are known beforehand, else 0.
@@ -319,8 +282,11 @@ void loadGroup(const GroupOperand<const T> &from, std::ptrdiff_t object, Group<T
             }
         }
     } else if (from.access == Access::ObjectsTouch && !byIndex) {
-        forEachPlace<part>(from, object, rows, columns,
-                           [&](int place, const T *element) { to[place] = Group<T>::load(element); });
+        forEachElement<part, false>(
+            from, object, rows, columns,
+            nullptr, [=](int element, const Pointers<const T> &places) __attribute__((always_inline)) {
+                to[element] = Group<T>::load(places[0]);
+            });
     } else if (isPermuted && (from.access == Access::ColumnsTouch || from.access == Access::ObjectsTouch)) {
         Group<T> elements[isKnown ? Rows * Columns : 1];
         loadGroup<part, false, Rows, Columns, T>(from, object, elements, nullptr);
@@ -357,7 +323,11 @@ void storeGroup(const GroupOperand<T> &to, std::ptrdiff_t object, const Group<T>
             storeRow<T>(column, rows - first, places.at(first, j));
         }
     } else if (to.access == Access::ObjectsTouch && !byIndex) {
-        forEachPlace<part>(to, object, rows, columns, [&](int place, T *element) { from[place].store(element); });
+        forEachElement<part, false>(
+            to, object, rows, columns,
+            nullptr, [=](int element, const Pointers<T> &places) __attribute__((always_inline)) {
+                from[element].store(places[0]);
+            });
     } else if (isPermuted && (to.access == Access::ColumnsTouch || to.access == Access::ObjectsTouch)) {
         Group<T> elements[isKnown ? Rows * Columns : 1];
         permuteRows<Permuting::Backwards, Rows, Columns, T>(from, rowOf, elements);

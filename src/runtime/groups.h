@@ -36,7 +36,7 @@ constexpr int lengthOf(Part part, int row, int columns) {
 
 namespace detail {
 
-enum class Access { RowsTouch, ColumnsTouch, ObjectsTouch, OneByOne, ThroughPointers };
+enum class Access { RowsTouch, ColumnsTouch, ObjectsTouch, OneByOne };
 
 // An operand, its element pointers replaced by steps in bytes where they are as regular as those.
 template <class Element>
@@ -58,6 +58,17 @@ extern template struct GroupOperand<double>;
 
 template <class Element>
 using Pointers = std::array<Element *, fullLanes<std::remove_const_t<Element>>>;
+
+// One for each lane: place(lane).
+template <class Element, class Place>
+[[gnu::always_inline]] inline Pointers<Element> inLanes(const Place &place) {
+    Pointers<Element> pointers;
+#pragma GCC unroll 8
+    for (std::ptrdiff_t lane = 0; lane < static_cast<std::ptrdiff_t>(pointers.size()); ++lane) {
+        pointers[lane] = place(lane);
+    }
+    return pointers;
+}
 
 template <class T>
 [[gnu::always_inline]] inline void turn(std::array<Group<T>, 4> &rows) {
@@ -114,21 +125,12 @@ template <class Element>
 [[gnu::always_inline]] inline Pointers<Element> pointersTo(const GroupOperand<Element> &operand,
                                                            std::ptrdiff_t object) {
     const Addresses<Element> &a = operand.addresses;
-    Pointers<Element> pointers;
     if (a.pointers != nullptr) {
-#pragma GCC unroll 8
-        for (int lane = 0; lane < static_cast<int>(pointers.size()); ++lane) {
-            pointers[lane] = shifted(a.pointers[object + lane], a.offset);
-        }
-        return pointers;
+        return inLanes<Element>([&](std::ptrdiff_t lane) { return shifted(a.pointers[object + lane], a.offset); });
     }
     const std::ptrdiff_t step = a.step[0];
     Element *const first = shifted(a.base, a.offset + object * step);
-#pragma GCC unroll 8
-    for (int lane = 0; lane < static_cast<int>(pointers.size()); ++lane) {
-        pointers[lane] = shifted(first, lane * step);
-    }
-    return pointers;
+    return inLanes<Element>([=](std::ptrdiff_t lane) { return shifted(first, lane * step); });
 }
 
 // A row of each object, by fours; the last of more than four together with some that are done again.
@@ -159,12 +161,8 @@ template <int Length, class T>
 template <int Rows, int Columns, class Element>
 [[gnu::always_inline]] inline Pointers<Element> rowsOfObjects(const Pointers<Element> &objects, const int *rowOf,
                                                               int row) {
-    Pointers<Element> pointers;
-#pragma GCC unroll 8
-    for (int lane = 0; lane < static_cast<int>(pointers.size()); ++lane) {
-        pointers[lane] = objects[lane] + std::ptrdiff_t(rowOf[lane * Rows + row]) * Columns;
-    }
-    return pointers;
+    return inLanes<Element>(
+        [&](std::ptrdiff_t lane) { return objects[lane] + std::ptrdiff_t(rowOf[lane * Rows + row]) * Columns; });
 }
 
 } // namespace detail

@@ -74,14 +74,15 @@ template <class T, class F, class... S>
     runInPieces<full / 2>(f, n, dst, i, src...);
 }
 
-// With stores past the caches, from the first element on that stands where a whole register may be stored so.
+// The same of at least a whole register, with stores past the caches from the first element on that stands where a
+// register may be stored so.
 template <class T, class F, class... S>
 [[gnu::always_inline]] inline void runStreamed(const F &f, std::ptrdiff_t n, T *dst, const S &...src) {
     constexpr int full = fullLanes<T>;
     constexpr std::uintptr_t size = full * sizeof(T);
     const std::uintptr_t bytes = -reinterpret_cast<std::uintptr_t>(dst) % size;
     std::ptrdiff_t i = static_cast<std::ptrdiff_t>(bytes / sizeof(T));
-    if (bytes % sizeof(T) != 0 || n < full) {
+    if (bytes % sizeof(T) != 0) { // no element does
         runInRegisters(f, n, dst, src...);
         return;
     }

@@ -33,23 +33,13 @@ constexpr Spacing spacingOf(std::ptrdiff_t stride) {
 namespace detail {
 
 inline void storeHalves(Group<float> group, float *low, float *high) {
-    Lanes<float, 4>{_mm256_castps256_ps128(group.vector)}.store(low);
-    Lanes<float, 4>{_mm256_extractf128_ps(group.vector, 1)}.store(high);
+    lowHalf(group).store(low);
+    highHalf(group).store(high);
 }
 
 template <int e0, int e1, int e2, int e3>
 inline Group<float> shuffled(Group<float> a, Group<float> b) {
     return {_mm256_shuffle_ps(a.vector, b.vector, _MM_SHUFFLE(e3, e2, e1, e0))};
-}
-
-// The 4x4 blocks of both halves, each by itself. Comments give vector and element of the lower half.
-inline Vectors<4> transposedInHalves(const Vectors<4> &r) {
-    const Group<float> low01 = {_mm256_unpacklo_ps(r[0].vector, r[1].vector)};  // 00 10 01 11
-    const Group<float> low23 = {_mm256_unpacklo_ps(r[2].vector, r[3].vector)};  // 20 30 21 31
-    const Group<float> high01 = {_mm256_unpackhi_ps(r[0].vector, r[1].vector)}; // 02 12 03 13
-    const Group<float> high23 = {_mm256_unpackhi_ps(r[2].vector, r[3].vector)}; // 22 32 23 33
-    return {shuffled<0, 1, 0, 1>(low01, low23), shuffled<2, 3, 2, 3>(low01, low23),
-            shuffled<0, 1, 0, 1>(high01, high23), shuffled<2, 3, 2, 3>(high01, high23)};
 }
 
 } // namespace detail
@@ -72,9 +62,9 @@ template <int K, Spacing spacing>
     } else {
         constexpr int loaded = spacing == Spacing::Wide ? 4 : K;
         const auto vector = [from, stride](int k) { return loadFirst<loaded>(shifted(from, k * stride)); };
-        const Vectors<4> element =
-            detail::transposedInHalves({joined(vector(0), vector(4)), joined(vector(1), vector(5)),
-                                        joined(vector(2), vector(6)), joined(vector(3), vector(7))});
+        Vectors<4> element = {joined(vector(0), vector(4)), joined(vector(1), vector(5)), joined(vector(2), vector(6)),
+                              joined(vector(3), vector(7))};
+        transposeHalves(element);
         Vectors<K> result;
         for (int i = 0; i < K; ++i) {
             result[i] = element[i];
@@ -100,11 +90,11 @@ template <int K, bool isPacked>
         storeHalves(shuffled<0, 2, 1, 3>(yz, xy), to + 4, to + 16);
         storeHalves(shuffled<1, 3, 1, 3>(zx, yz), to + 8, to + 20);
     } else {
-        const Vectors<4> vector =
-            detail::transposedInHalves({element[0], element[1], element[K > 2 ? 2 : 0], element[K - 1]});
+        Vectors<4> vector = {element[0], element[1], element[K > 2 ? 2 : 0], element[K - 1]};
+        transposeHalves(vector);
         for (int k = 0; k < 4; ++k) {
-            storeFirst<K>(shifted(to, k * stride), {_mm256_castps256_ps128(vector[k].vector)});
-            storeFirst<K>(shifted(to, (k + 4) * stride), {_mm256_extractf128_ps(vector[k].vector, 1)});
+            storeFirst<K>(shifted(to, k * stride), lowHalf(vector[k]));
+            storeFirst<K>(shifted(to, (k + 4) * stride), highHalf(vector[k]));
         }
     }
 }

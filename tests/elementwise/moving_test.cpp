@@ -5,6 +5,7 @@
 
 #include "checks/placements.h"
 #include "support/call.h"
+#include "support/expect_sound.h"
 #include "support/thread_count.h"
 
 #include <lxpm.h>
@@ -23,13 +24,6 @@
 namespace lxpm::test {
 
 namespace {
-
-void expectSound(const Report &report) {
-    EXPECT_GT(report.cases(), 0);
-    for (const std::string &complaint : report.complaints()) {
-        ADD_FAILURE() << complaint;
-    }
-}
 
 // --- Object strides of element pointers ---
 

@@ -7,6 +7,7 @@
 #include "checks/placements.h"
 #include "support/cache_size.h"
 #include "support/call.h"
+#include "support/expect_sound.h"
 #include "support/thread_count.h"
 
 #include <gtest/gtest.h>
@@ -55,13 +56,6 @@ void callShifted(const Export &item, const Shape &shape, int count, int shift, R
     call.verifyResults(report);
 }
 
-void expectSound(const Report &report) {
-    EXPECT_GT(report.cases(), 0);
-    for (const std::string &complaint : report.complaints()) {
-        ADD_FAILURE() << complaint;
-    }
-}
-
 } // namespace
 
 TEST(Streaming, GivesTheSameResults) {
@@ -86,7 +80,7 @@ TEST(Streaming, GivesTheSameResults) {
     }
 }
 
-TEST(Streaming, WantsACacheThatIsTooSmall) {
+TEST(Streaming, WithoutItResultsAreTheSame) {
     setThreadCount(1);
     for (const int cacheSize : {0, std::numeric_limits<int>::max()}) {
         const CacheSize machine(cacheSize);

@@ -5,6 +5,7 @@
 
 #include "checks/checks.h"
 #include "graphics/exports.h"
+#include "support/expect_sound.h"
 
 #include <gtest/gtest.h>
 
@@ -15,13 +16,6 @@
 namespace lxpm::test {
 
 namespace {
-
-void expectSound(const Report &report) {
-    EXPECT_GT(report.cases(), 0) << "the check ran no case";
-    for (const std::string &complaint : report.complaints()) {
-        ADD_FAILURE() << complaint;
-    }
-}
 
 using Exports = testing::TestWithParam<const Export *>;
 

@@ -5,6 +5,7 @@
 
 #include "graphics/checks.h"
 #include "graphics/reference.h"
+#include "support/expect_sound.h"
 #include "support/header_text.h"
 
 #include <gtest/gtest.h>
@@ -14,13 +15,6 @@
 namespace lxpm::test {
 
 namespace {
-
-void expectSound(const Report &report) {
-    EXPECT_GT(report.cases(), 0) << "the check ran no case";
-    for (const std::string &complaint : report.complaints()) {
-        ADD_FAILURE() << complaint;
-    }
-}
 
 bool anyFunction(const GraphicsExport &) {
     return true;

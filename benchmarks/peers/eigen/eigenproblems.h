@@ -15,7 +15,7 @@ namespace {
 // The solver reads the triangle below the diagonal, the library the one above it.
 template <class T, int n, bool hasVectors, bool isDirect>
 void runSymmetric(const PeerOperands &operands) {
-    using M = Decomposed<T, n, n, Eigen::RowMajor>;
+    using M = Decomposed<T, n, n>;
     inBlocks(operands.count, operands.threads, [&](long begin, long end) {
         const TransposedArray<M> source(operands.src1);
         auto *values = static_cast<T *>(operands.dst);
@@ -39,7 +39,7 @@ void runSymmetric(const PeerOperands &operands) {
 // Eigenvectors as they are found, a pair's in its two columns.
 template <class T, int n, bool hasVectors>
 void runGeneral(const PeerOperands &operands) {
-    using M = Decomposed<T, n, n, Eigen::RowMajor>;
+    using M = Decomposed<T, n, n>;
     inBlocks(operands.count, operands.threads, [&](long begin, long end) {
         const Array<M> source(operands.src1);
         auto *re = static_cast<T *>(operands.dst);

@@ -17,7 +17,7 @@ using Vector = Eigen::Matrix<T, len, 1>;
 
 // For decompositions of more than 8 rows, whose sizes Eigen is better told at run time: it calls kernels there instead
 // of writing all steps out, which takes the compiler many minutes and gigabytes. The elements need no heap.
-template <class T, int height, int width, int options>
+template <class T, int height, int width, int options = Eigen::RowMajor>
 using Decomposed = std::conditional_t<(height <= 8), Eigen::Matrix<T, height, width, options>,
                                       Eigen::Matrix<T, Eigen::Dynamic, Eigen::Dynamic, options, height, width>>;
 

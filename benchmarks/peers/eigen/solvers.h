@@ -15,9 +15,6 @@ namespace lxpm::bench::eigen {
 
 namespace {
 
-template <class T, int height, int width>
-using Tall = Decomposed<T, height, width, Eigen::RowMajor>;
-
 // Matrices and their decompositions are prepared by a kernel's first run, which is not measured.
 template <class Decomposition, class M>
 struct Prepared {
@@ -103,14 +100,14 @@ void addDecomposition(PeerTable &table, const std::string &name, const std::stri
 
 template <class T, int height, int width>
 void addQR(PeerTable &table, const std::string &type) {
-    using M = Tall<T, height, width>;
+    using M = Decomposed<T, height, width>;
     const std::string size = "_" + type + "/" + std::to_string(height) + "x" + std::to_string(width);
     addDecomposition<M, Eigen::HouseholderQR<M>, false>(table, "QR", size);
 }
 
 template <class T, int n>
 void addOrder(PeerTable &table, const std::string &type) {
-    using M = Tall<T, n, n>;
+    using M = Decomposed<T, n, n>;
     const std::string size = "_" + type + "/" + std::to_string(n) + "x" + std::to_string(n);
     addDecomposition<M, Eigen::PartialPivLU<M>, false>(table, "LU", size);
     addDecomposition<M, Eigen::LLT<M>, true>(table, "Cholesky", size);
