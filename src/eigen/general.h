@@ -13,7 +13,7 @@
 // orthogonal matrix z of a Schur form a = z t z' is kept transposed, column by column.
 
 #include "eigen/step_masks.h"
-#include "eigen/twice.h"
+#include "runtime/twice.h"
 #include "runtime/numbers.h"
 
 #include <bit>

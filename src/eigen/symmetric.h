@@ -12,7 +12,7 @@
 // below its diagonal is read.
 
 #include "eigen/step_masks.h"
-#include "eigen/twice.h"
+#include "runtime/twice.h"
 #include "runtime/numbers.h"
 
 #include <limits>

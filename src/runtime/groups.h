@@ -167,6 +167,36 @@ template <int Rows, int Columns, class Element>
 
 } // namespace detail
 
+// Objects without gaps, of a known number of rows and columns.
+
+template <class T>
+class PlainGroupSource {
+public:
+    explicit PlainGroupSource(const detail::GroupOperand<const T> &operand) : from(operand) {}
+
+    template <int Rows, int Columns>
+    [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to) const {
+        detail::loadLength<Rows * Columns, T>(detail::pointersTo(from, object), to);
+    }
+
+private:
+    const detail::GroupOperand<const T> &from;
+};
+
+template <class T>
+class PlainGroupDestination {
+public:
+    explicit PlainGroupDestination(const detail::GroupOperand<T> &operand) : to(operand) {}
+
+    template <int Rows, int Columns>
+    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from) const {
+        detail::storeLength<Rows * Columns, T>(from, detail::pointersTo(to, object));
+    }
+
+private:
+    const detail::GroupOperand<T> &to;
+};
+
 // Rows, Columns: the sizes where they are known beforehand, else 0.
 
 template <class T>
@@ -175,13 +205,16 @@ public:
     // Objects of `rows` rows of `columns` elements.
     GroupSource(const Addresses<const T> &operand, int rows, int columns) : from(operand, rows, columns) {}
 
+    bool isPlain() const { return from.isPlain; }
+    PlainGroupSource<T> plain() const { return PlainGroupSource<T>(from); }
+
     // The objects from `object` on, row by row. RowOf: row i of lane l is row rowOf[l * rows + i] of its object.
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to) const {
         if constexpr (Rows == 0) {
             loadAny<0, 0>(object, to);
         } else if (from.isPlain) {
-            detail::loadLength<Rows * Columns, T>(detail::pointersTo(from, object), to);
+            plain().template load<Rows, Columns>(object, to);
         } else {
             through<Rows, Columns>(to, [&](Group<T> *elements) { loadAny<Rows, Columns>(object, elements); });
         }
@@ -248,12 +281,15 @@ class GroupDestination {
 public:
     GroupDestination(const Addresses<T> &operand, int rows, int columns) : to(operand, rows, columns) {}
 
+    bool isPlain() const { return to.isPlain; }
+    PlainGroupDestination<T> plain() const { return PlainGroupDestination<T>(to); }
+
     template <int Rows, int Columns>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from) const {
         if constexpr (Rows == 0) {
             storeAny<0, 0>(object, from);
         } else if (to.isPlain) {
-            detail::storeLength<Rows * Columns, T>(from, detail::pointersTo(to, object));
+            plain().template store<Rows, Columns>(object, from);
         } else {
             const auto elements = copied<Rows * Columns>(from);
             storeAny<Rows, Columns>(object, elements.data());
@@ -320,5 +356,18 @@ private:
 
     detail::GroupOperand<T> to;
 };
+
+// Calls f with the operands, of a known order (0: of none) as plain ones if all of them are. For loops that do so
+// little with an object that asking for each of them takes its time.
+template <int Order, class F, class... Operands>
+[[gnu::always_inline]] inline void withPlain(const F &f, const Operands &...operands) {
+    if constexpr (Order != 0) {
+        if ((operands.isPlain() && ...)) {
+            f(operands.plain()...);
+            return;
+        }
+    }
+    f(operands...);
+}
 
 } // namespace lxpm

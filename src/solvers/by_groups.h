@@ -3,6 +3,7 @@
 #pragma once
 
 #include "runtime/groups.h"
+#include "runtime/twice.h"
 
 #include <lxpm/types.h>
 
@@ -11,32 +12,50 @@
 namespace lxpm {
 
 // The objects of one thread in ascending order: whole groups in lanes, what remains one by one; the first status other
-// than lxpStatusOk ends it. MakeGroups() gives a function that computes the group from an object on and says whether
-// all of it is well. If not, it has written nothing, and the group is done again one by one, so that what is written
-// and where it stops are those of single objects.
-template <class T, class MakeGroups, class One>
-LxpStatus byGroups(bool fitsLanes, int first, int count, const MakeGroups &makeGroups, const One &one) {
+// than lxpStatusOk ends it. withGroup(over) calls over(group): group(object) computes the group from an object on and
+// says whether all of it is well. If not, it has written nothing, and the group is done again one by one, so that what
+// is written and where it stops are those of single objects.
+//
+// isWide: two groups at a time as long as there are two; group is told the lanes first, as Twice<Group<T>> or Group<T>.
+template <class T, bool isWide = false, class WithGroup, class One>
+LxpStatus byGroups(bool fitsLanes, int first, int count, const WithGroup &withGroup, const One &one) {
     const std::ptrdiff_t end = std::ptrdiff_t(first) + count;
     std::ptrdiff_t object = first;
+    LxpStatus status = lxpStatusOk;
     const auto oneByOne = [&](std::ptrdiff_t last) {
-        for (; object < last; ++object) {
-            if (const LxpStatus status = one(object); status != lxpStatusOk) {
-                return status;
+        for (; object < last && status == lxpStatusOk; ++object) {
+            status = one(object);
+        }
+    };
+    const auto inLanes = [&](int lanes, const auto &group) __attribute__((always_inline)) {
+        while (object + lanes <= end && status == lxpStatusOk) {
+            if (group(object)) {
+                object += lanes;
+            } else {
+                oneByOne(object + lanes);
             }
         }
-        return lxpStatusOk;
+    };
+    const auto overGroups = [&](const auto &group) {
+        if constexpr (isWide) {
+            inLanes(
+                2 * groupSize<T>, [&](std::ptrdiff_t from)
+                                      __attribute__((always_inline)) { return group(Twice<Group<T>>(), from); });
+        }
+        inLanes(
+            groupSize<T>, [&](std::ptrdiff_t from) __attribute__((always_inline)) {
+                if constexpr (requires { group(Group<T>(), from); }) {
+                    return group(Group<T>(), from);
+                } else {
+                    return group(from);
+                }
+            });
     };
     if (fitsLanes && count >= groupSize<T>) {
-        const auto group = makeGroups();
-        while (object + groupSize<T> <= end) {
-            if (group(object)) {
-                object += groupSize<T>;
-            } else if (const LxpStatus status = oneByOne(object + groupSize<T>); status != lxpStatusOk) {
-                return status;
-            }
-        }
+        withGroup(overGroups);
     }
-    return oneByOne(end);
+    oneByOne(end);
+    return status;
 }
 
 } // namespace lxpm

@@ -44,6 +44,11 @@ inline Group<float> estimate(Group<float> d) {
     return {_mm256_rsqrt_ps(d.vector)};
 }
 
+template <class L>
+inline Twice<L> estimate(Twice<L> d) {
+    return {estimate(d.low), estimate(d.high)};
+}
+
 template <class V>
 [[gnu::always_inline]] inline V reciprocalRoot(V d) {
     if constexpr (std::is_same_v<ElementOf<V>, float>) {
@@ -91,17 +96,25 @@ struct Decomposition {
     Addresses<T> destination;
 };
 
-template <class T, int Order>
-bool decomposeGroup(const GroupSource<T> &source, const GroupDestination<T> &destination, int order,
+// The objects in the lanes of V.
+template <class V, int Order, class T>
+bool decomposeLanes(const GroupSource<T> &source, const GroupDestination<T> &destination, int order,
                     std::ptrdiff_t object) {
     const int n = Order != 0 ? Order : order;
-    Group<T> a[Order != 0 ? Order * Order : largestGroup];
-    source.template loadLowerTriangle<Order>(object, a);
-    const TouchingMatrix<Group<T>> matrix = {a, n};
-    if (factorize<Order, Group<T>>(matrix, matrix, n) < n) {
+    constexpr int elements = Order != 0 ? Order * Order : largestGroup;
+    V a[elements];
+    loadInGroups<elements, Group<T>>(
+        a, [&](int group, Group<T> *to) __attribute__((always_inline)) {
+            source.template loadLowerTriangle<Order>(object + group * groupSize<T>, to);
+        });
+    const TouchingMatrix<V> matrix = {a, n};
+    if (factorize<Order, V>(matrix, matrix, n) < n) {
         return false;
     }
-    destination.template storeLowerTriangle<Order>(object, a);
+    storeInGroups<elements, Group<T>>(
+        a, [&](int group, const Group<T> *from) __attribute__((always_inline)) {
+            destination.template storeLowerTriangle<Order>(object + group * groupSize<T>, from);
+        });
     return true;
 }
 
@@ -129,16 +142,17 @@ LxpStatus decomposeOne(const Addresses<const T> &source, const Addresses<T> &des
 template <class T, int Order>
 LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto makeGroups = [&] {
-        return [&, source = GroupSource<T>(call.source, n, n),
-                destination = GroupDestination<T>(call.destination, n, n)](std::ptrdiff_t object) {
-            return decomposeGroup<T, Order>(source, destination, n, object);
-        };
+    const auto withGroup = [&](const auto &over) {
+        over([&, source = GroupSource<T>(call.source, n, n),
+              destination = GroupDestination<T>(call.destination, n, n)](auto lanes, std::ptrdiff_t object) {
+            return decomposeLanes<decltype(lanes), Order>(source, destination, n, object);
+        });
     };
     const auto one = [&](std::ptrdiff_t object) {
         return decomposeOne<T, Order>(call.source.from(object), call.destination.from(object), n);
     };
-    return byGroups<T>(n <= largestCopied, first, count, makeGroups, one);
+    constexpr bool isWide = Order == 3 || Order == 4; // the elements of two larger ones do not stay in registers
+    return byGroups<T, isWide>(n <= largestCopied, first, count, withGroup, one);
 }
 
 template <class T>
@@ -156,14 +170,14 @@ template <int Order, class V, class Factor, class Vector>
         0, n, [&](int i) __attribute__((always_inline)) {
             V element = x[i];
             overRange<Order>(
-                0, i, [&](int j) __attribute__((always_inline)) { element = element - l(i, j) * x[j]; });
+                0, i, [&](int j) __attribute__((always_inline)) { element = element - number<V>(l(i, j)) * x[j]; });
             x[i] = element * number<V>(l(i, i));
         });
     overRangeDown<Order>(
         0, n, [&](int i) __attribute__((always_inline)) {
             V element = x[i];
             overRange<Order>(
-                i + 1, n, [&](int j) __attribute__((always_inline)) { element = element - l(j, i) * x[j]; });
+                i + 1, n, [&](int j) __attribute__((always_inline)) { element = element - number<V>(l(j, i)) * x[j]; });
             x[i] = element * number<V>(l(i, i));
         });
 }
@@ -191,14 +205,22 @@ void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right,
 }
 
 // Right-hand sides in lanes, the same factor for all of them.
-template <class T, int Order, class Factor>
-void substituteInto(const Factor &factor, const GroupSource<T> &right, const GroupDestination<T> &solution, int order,
+template <class V, int Order, class Factor, class Right, class Solution>
+void substituteInto(const Factor &factor, const Right &right, const Solution &solution, int order,
                     std::ptrdiff_t object) {
+    using T = ElementOf<V>;
     const int n = Order != 0 ? Order : order;
-    Group<T> x[Order != 0 ? Order : largestGroup];
-    right.template load<Order != 0, Order>(object, x);
-    substitute<Order, Group<T>>(factor, x, n);
-    solution.template store<Order != 0, Order>(object, x);
+    constexpr int elements = Order != 0 ? Order : largestGroup;
+    V x[elements];
+    loadInGroups<elements, Group<T>>(
+        x, [&](int group, Group<T> *to) __attribute__((always_inline)) {
+            right.template load<Order != 0, Order>(object + group * groupSize<T>, to);
+        });
+    substitute<Order, V>(factor, x, n);
+    storeInGroups<elements, Group<T>>(
+        x, [&](int group, const Group<T> *from) __attribute__((always_inline)) {
+            solution.template store<Order != 0, Order>(object + group * groupSize<T>, from);
+        });
 }
 
 template <class T, int Order>
@@ -235,24 +257,28 @@ LxpStatus substituteObjects(const Substitution<T> &call, int first, int count) {
         return lxpStatusOk;
     };
     if (!call.factors.isSingle()) {
-        const auto makeGroups = [&] {
-            return [&, factors = GroupSource<T>(call.factors, n, n)](std::ptrdiff_t object) {
+        const auto withGroup = [&](const auto &over) {
+            over([&, factors = GroupSource<T>(call.factors, n, n)](std::ptrdiff_t object) {
                 substituteGroup<T, Order>(factors, right, solution, n, object);
                 return true;
-            };
+            });
         };
-        return byGroups<T>(n <= largestCopied, first, count, makeGroups, one);
+        return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
     }
     LxpStatus status = lxpStatusOk;
     T copy[Order != 0 ? Order * Order : largestGroup];
     withMatrix<Part::LowerTriangle>(call.factors, n, n, copy, [&](const auto &factor) {
-        const auto makeGroups = [&] {
-            return [&](std::ptrdiff_t object) {
-                substituteInto<T, Order>(factor, right, solution, n, object);
-                return true;
-            };
+        const auto withGroup = [&](const auto &over) {
+            withPlain<Order>(
+                [&](const auto &from, const auto &to) {
+                    over([&](auto lanes, std::ptrdiff_t object) {
+                        substituteInto<decltype(lanes), Order>(factor, from, to, n, object);
+                        return true;
+                    });
+                },
+                right, solution);
         };
-        status = byGroups<T>(n <= largestGroup, first, count, makeGroups, one);
+        status = byGroups<T, Order != 0>(n <= largestGroup, first, count, withGroup, one);
     });
     return status;
 }

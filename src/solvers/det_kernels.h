@@ -87,8 +87,8 @@ struct Determinants {
     T *results;
 };
 
-template <class T, int Order>
-bool determinantsOfGroup(const GroupSource<T> &source, int order, T *results, std::ptrdiff_t object) {
+template <class T, int Order, class Source>
+bool determinantsOfGroup(const Source &source, int order, T *results, std::ptrdiff_t object) {
     const int n = Order != 0 ? Order : order;
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     source.template load<Order, Order>(object, a);
@@ -131,16 +131,20 @@ std::size_t scratchOf(int order) {
 template <class T, int Order>
 LxpStatus determinantsOf(const Determinants<T> &call, T *copy, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto makeGroups = [&] {
-        return [&, source = GroupSource<T>(call.source, n, n)](std::ptrdiff_t object) {
-            return determinantsOfGroup<T, Order>(source, n, call.results, object);
-        };
+    const auto withGroup = [&](const auto &over) {
+        withPlain<Order <= 4 ? Order : 0>(
+            [&](const auto &source) {
+                over([&](std::ptrdiff_t object) {
+                    return determinantsOfGroup<T, Order>(source, n, call.results, object);
+                });
+            },
+            GroupSource<T>(call.source, n, n));
     };
     const auto one = [&](std::ptrdiff_t object) {
         call.results[object] = determinantOf<T, Order>(call.source.from(object), n, copy);
         return lxpStatusOk;
     };
-    return byGroups<T>(n <= largestCopied, first, count, makeGroups, one);
+    return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
 }
 
 template <class T>

@@ -51,8 +51,7 @@ bool invertGroup(const GroupSource<T> &source, const GroupDestination<T> &destin
             Group<T> x[Order != 0 ? Order : largestCopied];
             overRange<Order>(
                 0, n, [&](int i) __attribute__((always_inline)) {
-                    x[i] = choose(isEqual(rowNumbers[i], constant<Group<T>>(column)), constant<Group<T>>(1),
-                                  constant<Group<T>>(0));
+                    x[i] = only(isEqual(rowNumbers[i], constant<Group<T>>(column)), constant<Group<T>>(1));
                 });
             substitute<Order, Group<T>>(rows, x, n);
             overRange<Order>(
@@ -142,16 +141,14 @@ LxpStatus invertOne(const Addresses<const T> &source, const Addresses<T> &destin
 template <class T, int Order>
 LxpStatus invertObjects(const Inversion<T> &call, const Workspace<T> &workspace, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto makeGroups = [&] {
-        return [&, source = GroupSource<T>(call.source, n, n),
-                destination = GroupDestination<T>(call.destination, n, n)](std::ptrdiff_t object) {
-            return invertGroup<T, Order>(source, destination, n, object);
-        };
+    const auto withGroup = [&](const auto &over) {
+        over([&, source = GroupSource<T>(call.source, n, n), destination = GroupDestination<T>(call.destination, n, n)](
+                 std::ptrdiff_t object) { return invertGroup<T, Order>(source, destination, n, object); });
     };
     const auto one = [&](std::ptrdiff_t object) {
         return invertOne<T, Order>(call.source.from(object), call.destination.from(object), n, workspace);
     };
-    return byGroups<T>(n <= largestCopied, first, count, makeGroups, one);
+    return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
 }
 
 template <class T>

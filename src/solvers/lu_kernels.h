@@ -13,7 +13,9 @@
 #include "solvers/lu_substitution.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <immintrin.h>
 
 namespace lxpm {
 
@@ -28,17 +30,63 @@ inline constexpr Row<Threshold> thresholds[] = {
     {"mava", Layouts::All, Types::Both, serialUpTo(1200)},
 };
 
-// Row numbers of a group, as they are stored with its objects.
+// Four numbers of each object, as integers: register after register.
+inline void integersOfObjects(Group<double> a, Group<double> b, Group<double> c, Group<double> d, __m128i *objects) {
+    const auto integers = [](Group<double> numbers) {
+        return Lanes<float, 4>{_mm_castsi128_ps(_mm256_cvttpd_epi32(numbers.vector))};
+    };
+    std::array<Lanes<float, 4>, 4> rows = {integers(a), integers(b), integers(c), integers(d)};
+    transpose(rows);
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) {
+        objects[i] = _mm_castps_si128(rows[i].vector);
+    }
+}
+
+inline void integersOfObjects(Group<float> a, Group<float> b, Group<float> c, Group<float> d, __m128i *objects) {
+    const auto integers = [](Group<float> numbers) {
+        return Group<float>{_mm256_castsi256_ps(_mm256_cvttps_epi32(numbers.vector))};
+    };
+    std::array<Group<float>, 4> rows = {integers(a), integers(b), integers(c), integers(d)};
+    transposeHalves(rows);
+#pragma GCC unroll 4
+    for (int i = 0; i < 4; ++i) {
+        objects[i] = _mm_castps_si128(lowHalf(rows[i]).vector);
+        objects[i + 4] = _mm_castps_si128(highHalf(rows[i]).vector);
+    }
+}
+
+// Row numbers of a group, as they are stored with its objects: by fours, the last of more than four together with some
+// that are stored again. The three of an object are stored with the first one of the next, which follows.
 template <int Order, class T>
 [[gnu::always_inline]] inline void storeIndex(const Group<T> *index, int n, int *to) {
-    T numbers[groupSize<T>];
-    overRange<Order>(
-        0, n, [&](int k) __attribute__((always_inline)) {
+    if (n < 3) {
+        T numbers[groupSize<T>];
+        for (int k = 0; k < n; ++k) {
             index[k].store(numbers);
-            for (std::ptrdiff_t lane = 0; lane < groupSize<T>; ++lane) {
+            for (int lane = 0; lane < groupSize<T>; ++lane) {
                 to[lane * n + k] = static_cast<int>(numbers[lane]);
             }
-        });
+        }
+        return;
+    }
+    const int last = std::max(n - 4, 0);
+    for (int first = 0; first < n; first += 4) {
+        const int k = std::min(first, last);
+        __m128i objects[groupSize<T>];
+        integersOfObjects(index[k], index[k + 1], index[k + 2], index[std::min(k + 3, n - 1)], objects);
+#pragma GCC unroll 8
+        for (int lane = 0; lane + 1 < groupSize<T>; ++lane) {
+            _mm_storeu_si128(reinterpret_cast<__m128i *>(to + std::ptrdiff_t(lane) * n + k), objects[lane]);
+        }
+        int *const ofLast = to + std::ptrdiff_t(groupSize<T> - 1) * n + k;
+        if (n == 3) {
+            _mm_storel_epi64(reinterpret_cast<__m128i *>(ofLast), objects[groupSize<T> - 1]);
+            ofLast[2] = _mm_extract_epi32(objects[groupSize<T> - 1], 2);
+        } else {
+            _mm_storeu_si128(reinterpret_cast<__m128i *>(ofLast), objects[groupSize<T> - 1]);
+        }
+    }
 }
 
 template <class T>
@@ -61,7 +109,13 @@ bool decomposeGroup(const GroupSource<T> &source, const GroupDestination<T> &des
         return false;
     }
     storeIndex<Order, T>(rowNumbers, n, index);
-    destination.template store<Order, Order>(object, a, index);
+    if constexpr (Order == 3) { // nine elements are fewer stores than three times three
+        Group<T> inPlace[9];
+        rows.template putBack<3>(inPlace);
+        destination.template store<3, 3>(object, inPlace);
+    } else {
+        destination.template store<Order, Order>(object, a, index);
+    }
     return true;
 }
 
@@ -105,11 +159,11 @@ LxpStatus decomposeOne(const Addresses<const T> &source, int *index, const Addre
 template <class T, int Order>
 LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto makeGroups = [&] {
-        return [&, source = GroupSource<T>(call.source, n, n),
-                destination = GroupDestination<T>(call.destination, n, n)](std::ptrdiff_t object) {
+    const auto withGroup = [&](const auto &over) {
+        over([&, source = GroupSource<T>(call.source, n, n),
+              destination = GroupDestination<T>(call.destination, n, n)](std::ptrdiff_t object) {
             return decomposeGroup<T, Order>(source, destination, n, call.index + object * n, object);
-        };
+        });
     };
     const auto one = [&](std::ptrdiff_t object) {
         const auto from = call.source.from(object);
@@ -120,7 +174,7 @@ LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
             return decomposeOne<T>(from, call.index + object * n, to, n);
         }
     };
-    return byGroups<T>(n <= largestCopied, first, count, makeGroups, one);
+    return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
 }
 
 template <class T>
@@ -154,17 +208,25 @@ void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right,
 }
 
 // Right-hand sides in lanes; the factors, in pivot order, are those of all of them.
-template <class T, int Order, class Factors>
-void substituteInto(const Factors &factors, const GroupSource<T> &right, const GroupDestination<T> &solution, int order,
-                    const int *index, std::ptrdiff_t object) {
+template <class V, int Order, class Factors, class Right, class Solution>
+void substituteInto(const Factors &factors, const Right &right, const Solution &solution, int order, const int *index,
+                    std::ptrdiff_t object) {
+    using T = ElementOf<V>;
     const int n = Order != 0 ? Order : order;
-    Group<T> b[Order != 0 ? Order : largestGroup];
-    Group<T> x[Order != 0 ? Order : largestGroup];
-    right.template load<Order != 0, Order>(object, b);
-    overRange<Order>(
-        0, n, [&](int i) __attribute__((always_inline)) { x[i] = b[index[i]]; });
-    substitute<Order, Group<T>>(factors, x, n);
-    solution.template store<Order != 0, Order>(object, x);
+    constexpr int elements = Order != 0 ? Order : largestGroup;
+    V x[elements];
+    loadInGroups<elements, Group<T>>(
+        x, [&](int group, Group<T> *to) __attribute__((always_inline)) {
+            Group<T> b[elements];
+            right.template load<Order != 0, Order>(object + group * groupSize<T>, b);
+            overRange<Order>(
+                0, n, [&](int i) __attribute__((always_inline)) { to[i] = b[index[i]]; });
+        });
+    substitute<Order, V>(factors, x, n);
+    storeInGroups<elements, Group<T>>(
+        x, [&](int group, const Group<T> *from) __attribute__((always_inline)) {
+            solution.template store<Order != 0, Order>(object + group * groupSize<T>, from);
+        });
 }
 
 template <class T, int Order>
@@ -204,18 +266,22 @@ LxpStatus substituteMany(const Substitution<T> &call, int first, int count) {
     };
     if (count < groupSize<T> || n > largestGroup) {
         return byGroups<T>(
-            false, first, count, [] { return [](std::ptrdiff_t) { return false; }; }, oneByOne);
+            false, first, count, [](const auto &) {}, oneByOne);
     }
     const GroupSource<T> right(call.right, 1, n);
     const GroupDestination<T> solution(call.solution, 1, n);
     const auto run = [&](const auto &factors) {
-        const auto makeGroups = [&] {
-            return [&](std::ptrdiff_t object) {
-                substituteInto<T, Order>(factors, right, solution, n, call.index, object);
-                return true;
-            };
+        const auto withGroup = [&](const auto &over) {
+            withPlain<Order>(
+                [&](const auto &from, const auto &to) {
+                    over([&](auto lanes, std::ptrdiff_t object) {
+                        substituteInto<decltype(lanes), Order>(factors, from, to, n, call.index, object);
+                        return true;
+                    });
+                },
+                right, solution);
         };
-        return byGroups<T>(true, first, count, makeGroups, oneByOne);
+        return byGroups<T, Order != 0>(true, first, count, withGroup, oneByOne);
     };
     if (n > largestCopied) {
         return run([&](int i, int j) { return *call.factors.at(0, call.index[i], j); });
@@ -233,19 +299,19 @@ LxpStatus substituteMany(const Substitution<T> &call, int first, int count) {
 template <class T, int Order>
 LxpStatus substituteEach(const Substitution<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto makeGroups = [&] {
-        return [&, factors = GroupSource<T>(call.factors, n, n),
-                right = GroupSource<T>(call.right.transposed(), n, 1), // for its rows to be permuted
-                solution = GroupDestination<T>(call.solution, 1, n)](std::ptrdiff_t object) {
+    const auto withGroup = [&](const auto &over) {
+        over([&, factors = GroupSource<T>(call.factors, n, n),
+              right = GroupSource<T>(call.right.transposed(), n, 1), // for its rows to be permuted
+              solution = GroupDestination<T>(call.solution, 1, n)](std::ptrdiff_t object) {
             substituteGroup<T, Order>(factors, right, solution, n, call.index + object * n, object);
             return true;
-        };
+        });
     };
     const auto one = [&](std::ptrdiff_t object) {
         substituteOne<T, Order>(call, call.index + object * n, object);
         return lxpStatusOk;
     };
-    return byGroups<T>(n <= largestCopied, first, count, makeGroups, one);
+    return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
 }
 
 template <class T, int Order>

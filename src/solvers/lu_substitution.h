@@ -17,11 +17,11 @@ template <int Order, class V, class Factors, class Vector>
     const auto subtractProducts = [&](int i, int from, int to) __attribute__((always_inline)) {
         if constexpr (Order != 0) {
             overRange<Order>(
-                from, to, [&](int j) __attribute__((always_inline)) { x[i] = x[i] - a(i, j) * x[j]; });
+                from, to, [&](int j) __attribute__((always_inline)) { x[i] = x[i] - number<V>(a(i, j)) * x[j]; });
         } else {
             V sum = constant<V>(0);
             for (int j = from; j < to; ++j) {
-                sum = sum + a(i, j) * x[j];
+                sum = sum + number<V>(a(i, j)) * x[j];
             }
             x[i] = x[i] - sum;
         }

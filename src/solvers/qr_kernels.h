@@ -184,16 +184,16 @@ LxpStatus withOrderOf(Size size, const Kernel &kernel) {
 template <class T, int Order>
 LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const Size size = call.size;
-    const auto makeGroups = [&] {
-        return [&, source = GroupSource<T>(call.source, size.height, size.width),
-                destination = GroupDestination<T>(call.destination, size.height, size.width)](std::ptrdiff_t object) {
+    const auto withGroup = [&](const auto &over) {
+        over([&, source = GroupSource<T>(call.source, size.height, size.width),
+              destination = GroupDestination<T>(call.destination, size.height, size.width)](std::ptrdiff_t object) {
             return decomposeGroup<T, Order>(source, destination, size, object);
-        };
+        });
     };
     const auto one = [&](std::ptrdiff_t object) {
         return decomposeOne<T, Order>(call.source.from(object), call.destination.from(object), size);
     };
-    return byGroups<T>(size.fits(largestGroup), first, count, makeGroups, one);
+    return byGroups<T>(size.fits(largestGroup), first, count, withGroup, one);
 }
 
 template <class T>
@@ -297,13 +297,13 @@ LxpStatus substituteObjects(const Substitution<T> &call, T *x, int first, int co
         return lxpStatusOk;
     };
     if (!call.factors.isSingle() || count < groupSize<T>) {
-        const auto makeGroups = [&] {
-            return [&, factors = GroupSource<T>(call.factors, size.height, size.width)](std::ptrdiff_t object) {
+        const auto withGroup = [&](const auto &over) {
+            over([&, factors = GroupSource<T>(call.factors, size.height, size.width)](std::ptrdiff_t object) {
                 substituteGroup<T, Order>(factors, right, solution, size, object);
                 return true;
-            };
+            });
         };
-        return byGroups<T>(size.fits(largestGroup), first, count, makeGroups, one);
+        return byGroups<T>(size.fits(largestGroup), first, count, withGroup, one);
     }
     LxpStatus status = lxpStatusOk;
     T copy[Order != 0 ? Order * Order : largestGroup];
@@ -313,13 +313,13 @@ LxpStatus substituteObjects(const Substitution<T> &call, T *x, int first, int co
         for (int k = 0; k < size.reflectors() && fits; ++k) {
             scales[k] = scaleOf<Order, T>(a, k, size.height);
         }
-        const auto makeGroups = [&] {
-            return [&](std::ptrdiff_t object) {
+        const auto withGroup = [&](const auto &over) {
+            over([&](std::ptrdiff_t object) {
                 substituteInto<T, Order>(a, scales, right, solution, size, object);
                 return true;
-            };
+            });
         };
-        status = byGroups<T>(fits, first, count, makeGroups, one);
+        status = byGroups<T>(fits, first, count, withGroup, one);
     });
     return status;
 }

@@ -479,7 +479,7 @@ struct Objects {
 
 TYPED_TEST(Solvers, ArraysStopWhereSinglesDoAndWriteWhatTheyWrite) {
     using T = TypeParam;
-    constexpr int count = 21; // groups of lanes and a remainder
+    constexpr int count = 29; // two groups of lanes at a time, one, and a remainder
     for (const Family<T> &family : families<T>()) {
         for (const int n : {2, 3, 4, 5, 6, 7, 16, 17}) {
             for (int object = 0; object < count; ++object) {

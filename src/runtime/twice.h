@@ -6,7 +6,8 @@
 
 namespace lxpm {
 
-// An iteration waits for roots and quotients most of the time. Two that do not depend on one another fill the time.
+// An iteration, and what has a root in each row, waits for roots and quotients most of the time. Two that do not depend
+// on one another fill the time.
 template <class L>
 struct Twice {
     L low;
@@ -84,6 +85,41 @@ inline bool any(TwiceMask<M> mask) {
 template <class M>
 inline bool all(TwiceMask<M> mask) {
     return all(both(mask.low, mask.high));
+}
+
+// Elements of V, a group or two of them, from those of one group after the other: load(group, elements).
+template <int count, class L, class Load>
+[[gnu::always_inline]] inline void loadInGroups(L *to, const Load &load) {
+    load(0, to);
+}
+template <int count, class L, class Load>
+[[gnu::always_inline]] inline void loadInGroups(Twice<L> *to, const Load &load) {
+    L low[count];
+    L high[count];
+    load(0, low);
+    load(1, high);
+#pragma GCC unroll 64
+    for (int i = 0; i < count; ++i) {
+        to[i] = {low[i], high[i]};
+    }
+}
+
+// And back: store(group, elements).
+template <int count, class L, class Store>
+[[gnu::always_inline]] inline void storeInGroups(const L *from, const Store &store) {
+    store(0, from);
+}
+template <int count, class L, class Store>
+[[gnu::always_inline]] inline void storeInGroups(const Twice<L> *from, const Store &store) {
+    L low[count];
+    L high[count];
+#pragma GCC unroll 64
+    for (int i = 0; i < count; ++i) {
+        low[i] = from[i].low;
+        high[i] = from[i].high;
+    }
+    store(0, low);
+    store(1, high);
 }
 
 } // namespace lxpm
