@@ -13,8 +13,8 @@
 // orthogonal matrix z of a Schur form a = z t z' is kept transposed, column by column.
 
 #include "eigen/step_masks.h"
-#include "runtime/twice.h"
 #include "runtime/numbers.h"
+#include "runtime/twice.h"
 
 #include <bit>
 #include <cstdint>

@@ -5,9 +5,9 @@
 // Objects of an array go into registers, one in each lane, and come back. Rows whose elements touch are turned in
 // registers, four elements of all objects at a time; others are picked one by one.
 
-#include "runtime/twice.h"
 #include "runtime/addresses.h"
 #include "runtime/lanes.h"
+#include "runtime/twice.h"
 
 #include <array>
 #include <cstddef>

@@ -12,8 +12,8 @@
 // below its diagonal is read.
 
 #include "eigen/step_masks.h"
-#include "runtime/twice.h"
 #include "runtime/numbers.h"
+#include "runtime/twice.h"
 
 #include <limits>
 #include <utility>
