@@ -3,8 +3,6 @@
 
 #include "runtime/groups.h"
 
-#include "runtime/numbers.h"
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -183,11 +181,9 @@ template <class T>
     }
 }
 
-// Rows in another order in each object, in registers: row i of the result is row rowOf[i], or the other way round.
-enum class Permuting { Forwards, Backwards };
-
-template <Permuting permuting, int Rows, int Columns, class T>
-[[gnu::always_inline]] inline void permuteRows(const Group<T> *from, const int *rowOf, Group<T> *to) {
+// Row numbers that stand object after object, in lanes.
+template <int Rows, class T>
+[[gnu::always_inline]] inline std::array<Group<T>, Rows> numbersInLanes(const int *rowOf) {
     std::array<Group<T>, Rows> numbers;
 #pragma GCC unroll 8
     for (int i = 0; i < Rows; ++i) {
@@ -196,22 +192,7 @@ template <Permuting permuting, int Rows, int Columns, class T>
         }
         (std::make_integer_sequence<int, groupSize<T>>());
     }
-#pragma GCC unroll 8
-    for (int i = 0; i < Rows; ++i) {
-#pragma GCC unroll 8
-        for (int j = 0; j < Columns; ++j) {
-            to[i * Columns + j] = from[j];
-        }
-#pragma GCC unroll 8
-        for (int k = 1; k < Rows; ++k) {
-            const auto isMeant = permuting == Permuting::Forwards ? isEqual(numbers[i], Group<T>::splat(T(k)))
-                                                                  : isEqual(numbers[k], Group<T>::splat(T(i)));
-#pragma GCC unroll 8
-            for (int j = 0; j < Columns; ++j) {
-                to[i * Columns + j] = choose(isMeant, from[k * Columns + j], to[i * Columns + j]);
-            }
-        }
-    }
+    return numbers;
 }
 
 // Where a load by fours of a row may end without leaving it.
@@ -290,7 +271,7 @@ void loadGroup(const GroupOperand<const T> &from, std::ptrdiff_t object, Group<T
     } else if (isPermuted && (from.access == Access::ColumnsTouch || from.access == Access::ObjectsTouch)) {
         Group<T> elements[isKnown ? Rows * Columns : 1];
         loadGroup<part, false, Rows, Columns, T>(from, object, elements, nullptr);
-        permuteRows<Permuting::Forwards, Rows, Columns, T>(elements, rowOf, to);
+        permuteRows<Permuting::Forwards, Rows, Columns>(elements, numbersInLanes<Rows, T>(rowOf).data(), to);
     } else {
         pickGroup<part, byIndex, T>(from, object, to, rowOf);
     }
@@ -330,7 +311,7 @@ void storeGroup(const GroupOperand<T> &to, std::ptrdiff_t object, const Group<T>
             });
     } else if (isPermuted && (to.access == Access::ColumnsTouch || to.access == Access::ObjectsTouch)) {
         Group<T> elements[isKnown ? Rows * Columns : 1];
-        permuteRows<Permuting::Backwards, Rows, Columns, T>(from, rowOf, elements);
+        permuteRows<Permuting::Backwards, Rows, Columns>(from, numbersInLanes<Rows, T>(rowOf).data(), elements);
         storeGroup<part, false, Rows, Columns, T>(to, object, elements, nullptr);
     } else {
         placeGroup<part, byIndex, T>(to, object, from, rowOf);

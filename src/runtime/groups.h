@@ -12,6 +12,7 @@
 
 #include "runtime/addresses.h"
 #include "runtime/lanes.h"
+#include "runtime/numbers.h"
 
 #include <algorithm>
 #include <array>
@@ -356,6 +357,29 @@ private:
 
     detail::GroupOperand<T> to;
 };
+
+// Rows in another order in each object: row i of the result is row rowOf[i], or the other way round.
+enum class Permuting { Forwards, Backwards };
+
+template <Permuting permuting, int Rows, int Columns, class L>
+[[gnu::always_inline]] inline void permuteRows(const L *from, const L *rowOf, L *to) {
+#pragma GCC unroll 8
+    for (int i = 0; i < Rows; ++i) {
+#pragma GCC unroll 8
+        for (int j = 0; j < Columns; ++j) {
+            to[i * Columns + j] = from[j];
+        }
+#pragma GCC unroll 8
+        for (int k = 1; k < Rows; ++k) {
+            const auto isMeant = permuting == Permuting::Forwards ? isEqual(rowOf[i], constant<L>(k))
+                                                                  : isEqual(rowOf[k], constant<L>(i));
+#pragma GCC unroll 8
+            for (int j = 0; j < Columns; ++j) {
+                to[i * Columns + j] = choose(isMeant, from[k * Columns + j], to[i * Columns + j]);
+            }
+        }
+    }
+}
 
 // Calls f with the operands, of a known order (0: of none) as plain ones if all of them are. For loops that do so
 // little with an object that asking for each of them takes its time.

@@ -12,11 +12,11 @@
 namespace lxpm {
 
 // The objects of one thread in ascending order: whole groups in lanes, what remains one by one; the first status other
-// than lxpStatusOk ends it. withGroup(over) calls over(group): group(object) computes the group from an object on and
-// says whether all of it is well. If not, it has written nothing, and the group is done again one by one, so that what
-// is written and where it stops are those of single objects.
+// than lxpStatusOk ends it. withGroup(over) calls over(group): group(lanes, object) computes the objects from that one
+// on in lanes, a Group<T>, and says whether all of them are well. If not, it has written nothing, and they are done
+// again one by one, so that what is written and where it stops are those of single objects.
 //
-// isWide: two groups at a time as long as there are two; group is told the lanes first, as Twice<Group<T>> or Group<T>.
+// isWide: two groups at a time, in a Twice<Group<T>>, as long as there are two.
 template <class T, bool isWide = false, class WithGroup, class One>
 LxpStatus byGroups(bool fitsLanes, int first, int count, const WithGroup &withGroup, const One &one) {
     const std::ptrdiff_t end = std::ptrdiff_t(first) + count;
@@ -27,29 +27,21 @@ LxpStatus byGroups(bool fitsLanes, int first, int count, const WithGroup &withGr
             status = one(object);
         }
     };
-    const auto inLanes = [&](int lanes, const auto &group) __attribute__((always_inline)) {
-        while (object + lanes <= end && status == lxpStatusOk) {
-            if (group(object)) {
-                object += lanes;
+    const auto inLanes = [&](auto lanes, const auto &group) __attribute__((always_inline)) {
+        constexpr int width = NumberOf<decltype(lanes)>::lanes;
+        while (object + width <= end && status == lxpStatusOk) {
+            if (group(lanes, object)) {
+                object += width;
             } else {
-                oneByOne(object + lanes);
+                oneByOne(object + width);
             }
         }
     };
     const auto overGroups = [&](const auto &group) {
         if constexpr (isWide) {
-            inLanes(
-                2 * groupSize<T>, [&](std::ptrdiff_t from)
-                                      __attribute__((always_inline)) { return group(Twice<Group<T>>(), from); });
+            inLanes(Twice<Group<T>>(), group);
         }
-        inLanes(
-            groupSize<T>, [&](std::ptrdiff_t from) __attribute__((always_inline)) {
-                if constexpr (requires { group(Group<T>(), from); }) {
-                    return group(Group<T>(), from);
-                } else {
-                    return group(from);
-                }
-            });
+        inLanes(Group<T>(), group);
     };
     if (fitsLanes && count >= groupSize<T>) {
         withGroup(overGroups);

@@ -258,7 +258,7 @@ LxpStatus substituteObjects(const Substitution<T> &call, int first, int count) {
     };
     if (!call.factors.isSingle()) {
         const auto withGroup = [&](const auto &over) {
-            over([&, factors = GroupSource<T>(call.factors, n, n)](std::ptrdiff_t object) {
+            over([&, factors = GroupSource<T>(call.factors, n, n)](auto, std::ptrdiff_t object) {
                 substituteGroup<T, Order>(factors, right, solution, n, object);
                 return true;
             });

@@ -134,7 +134,7 @@ LxpStatus determinantsOf(const Determinants<T> &call, T *copy, int first, int co
     const auto withGroup = [&](const auto &over) {
         withPlain<Order <= 4 ? Order : 0>(
             [&](const auto &source) {
-                over([&](std::ptrdiff_t object) {
+                over([&](auto, std::ptrdiff_t object) {
                     return determinantsOfGroup<T, Order>(source, n, call.results, object);
                 });
             },

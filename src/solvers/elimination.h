@@ -166,24 +166,6 @@ public:
         exchangeColumn(index, 1);
     }
 
-    // The rows where they were before they were exchanged.
-    template <int Order>
-    [[gnu::always_inline]] void putBack(Number *to) const {
-        overRange<Order>(
-            0, n, [&](int row) __attribute__((always_inline)) {
-                overRange<Order>(
-                    0, n, [&](int j) __attribute__((always_inline)) { to[row * n + j] = (*this)(0, j); });
-                overRange<Order>(
-                    1, n, [&](int k) __attribute__((always_inline)) {
-                        const auto isMeant = isEqual(index[k], constant<Number>(row));
-                        overRange<Order>(
-                            0, n, [&](int j) __attribute__((always_inline)) {
-                                to[row * n + j] = choose(isMeant, (*this)(k, j), to[row * n + j]);
-                            });
-                    });
-            });
-    }
-
     template <int Order>
     [[gnu::always_inline]] void subtract(int i, int k, Number factor, int from, int) const {
         overRange<Order>(

@@ -143,7 +143,7 @@ LxpStatus invertObjects(const Inversion<T> &call, const Workspace<T> &workspace,
     const int n = Order != 0 ? Order : call.order;
     const auto withGroup = [&](const auto &over) {
         over([&, source = GroupSource<T>(call.source, n, n), destination = GroupDestination<T>(call.destination, n, n)](
-                 std::ptrdiff_t object) { return invertGroup<T, Order>(source, destination, n, object); });
+                 auto, std::ptrdiff_t object) { return invertGroup<T, Order>(source, destination, n, object); });
     };
     const auto one = [&](std::ptrdiff_t object) {
         return invertOne<T, Order>(call.source.from(object), call.destination.from(object), n, workspace);

@@ -58,7 +58,7 @@ inline void integersOfObjects(Group<float> a, Group<float> b, Group<float> c, Gr
 
 // Row numbers of a group, as they are stored with its objects: by fours, the last of more than four together with some
 // that are stored again. The three of an object are stored with the first one of the next, which follows.
-template <int Order, class T>
+template <class T>
 [[gnu::always_inline]] inline void storeIndex(const Group<T> *index, int n, int *to) {
     if (n < 3) {
         T numbers[groupSize<T>];
@@ -108,10 +108,10 @@ bool decomposeGroup(const GroupSource<T> &source, const GroupDestination<T> &des
     if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
         return false;
     }
-    storeIndex<Order, T>(rowNumbers, n, index);
+    storeIndex(rowNumbers, n, index);
     if constexpr (Order == 3) { // nine elements are fewer stores than three times three
         Group<T> inPlace[9];
-        rows.template putBack<3>(inPlace);
+        permuteRows<Permuting::Backwards, 3, 3>(a, rowNumbers, inPlace);
         destination.template store<3, 3>(object, inPlace);
     } else {
         destination.template store<Order, Order>(object, a, index);
@@ -161,7 +161,7 @@ LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
     const auto withGroup = [&](const auto &over) {
         over([&, source = GroupSource<T>(call.source, n, n),
-              destination = GroupDestination<T>(call.destination, n, n)](std::ptrdiff_t object) {
+              destination = GroupDestination<T>(call.destination, n, n)](auto, std::ptrdiff_t object) {
             return decomposeGroup<T, Order>(source, destination, n, call.index + object * n, object);
         });
     };
@@ -302,7 +302,7 @@ LxpStatus substituteEach(const Substitution<T> &call, int first, int count) {
     const auto withGroup = [&](const auto &over) {
         over([&, factors = GroupSource<T>(call.factors, n, n),
               right = GroupSource<T>(call.right.transposed(), n, 1), // for its rows to be permuted
-              solution = GroupDestination<T>(call.solution, 1, n)](std::ptrdiff_t object) {
+              solution = GroupDestination<T>(call.solution, 1, n)](auto, std::ptrdiff_t object) {
             substituteGroup<T, Order>(factors, right, solution, n, call.index + object * n, object);
             return true;
         });

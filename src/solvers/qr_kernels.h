@@ -186,9 +186,8 @@ LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const Size size = call.size;
     const auto withGroup = [&](const auto &over) {
         over([&, source = GroupSource<T>(call.source, size.height, size.width),
-              destination = GroupDestination<T>(call.destination, size.height, size.width)](std::ptrdiff_t object) {
-            return decomposeGroup<T, Order>(source, destination, size, object);
-        });
+              destination = GroupDestination<T>(call.destination, size.height, size.width)](
+                 auto, std::ptrdiff_t object) { return decomposeGroup<T, Order>(source, destination, size, object); });
     };
     const auto one = [&](std::ptrdiff_t object) {
         return decomposeOne<T, Order>(call.source.from(object), call.destination.from(object), size);
@@ -298,7 +297,7 @@ LxpStatus substituteObjects(const Substitution<T> &call, T *x, int first, int co
     };
     if (!call.factors.isSingle() || count < groupSize<T>) {
         const auto withGroup = [&](const auto &over) {
-            over([&, factors = GroupSource<T>(call.factors, size.height, size.width)](std::ptrdiff_t object) {
+            over([&, factors = GroupSource<T>(call.factors, size.height, size.width)](auto, std::ptrdiff_t object) {
                 substituteGroup<T, Order>(factors, right, solution, size, object);
                 return true;
             });
@@ -314,7 +313,7 @@ LxpStatus substituteObjects(const Substitution<T> &call, T *x, int first, int co
             scales[k] = scaleOf<Order, T>(a, k, size.height);
         }
         const auto withGroup = [&](const auto &over) {
-            over([&](std::ptrdiff_t object) {
+            over([&](auto, std::ptrdiff_t object) {
                 substituteInto<T, Order>(a, scales, right, solution, size, object);
                 return true;
             });
