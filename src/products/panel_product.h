@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Products of any size and layout. The result is made in blocks of a few rows by two registers, which hold the sums of
-// a block while the inner dimension runs. What a block cannot read as it stands is copied to memory that it can.
+// Products of any size and layout. The result is made in blocks of a few rows by one or two registers, which hold the
+// sums of a block while the inner dimension runs. Where the columns are no multiple of the lanes, the last register
+// overlaps the one before it. What a block cannot read as it stands is copied to memory that it can.
 //
 // Longer sums pass through the destination: where a stretch of the inner dimension ends, the sums are stored, and the
 // next stretch goes on from them. The bits are those of one long sum.
@@ -15,17 +16,21 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <type_traits>
 
 namespace lxpm {
 
 template <class T>
 class PanelProduct {
-    static constexpr int width = 2 * fullLanes<T>; // of a block, in elements
+    static constexpr std::ptrdiff_t lanes = fullLanes<T>;
+    static constexpr std::ptrdiff_t width = 2 * lanes; // of the widest block, in elements
     static constexpr int blockRows = 4;
     static constexpr std::ptrdiff_t depth = 1024 / width; // of the inner dimension at a time
 
     using L = Lanes<T, fullLanes<T>>;
-    using Block = std::array<std::array<L, 2>, blockRows>;
+
+    template <int Rows, int Registers>
+    using Block = std::array<std::array<L, Registers>, Rows>;
 
     static constexpr std::ptrdiff_t bytes(std::ptrdiff_t elements) {
         return elements * static_cast<std::ptrdiff_t>(sizeof(T));
@@ -34,153 +39,163 @@ class PanelProduct {
 public:
     static void run(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         PanelProduct<T> product(p);
-        for (std::ptrdiff_t column = 0; column < p.columns; column += width) {
-            product.columns(column, std::min<std::ptrdiff_t>(width, p.columns - column), count);
+        std::ptrdiff_t column = 0;
+        for (; p.columns - column > lanes; column += width) {
+            product.template columns<2>(column, std::min(width, p.columns - column), count);
+        }
+        if (column < p.columns) {
+            const std::ptrdiff_t first = std::clamp<std::ptrdiff_t>(p.columns - lanes, 0, column);
+            product.template columns<1>(first, p.columns - first, count);
         }
     }
 
 private:
+    // Rows of b, or a copy of them, that the registers of a block are loaded from.
+    struct Panel {
+        const T *first;
+        std::ptrdiff_t rows;
+        std::ptrdiff_t rowStep; // in bytes
+        std::ptrdiff_t second;  // where the second register starts, in elements
+    };
+
     explicit PanelProduct(const MatrixProduct<T> &product) : p(product) {}
 
-    // Columns of all results.
+    // Columns of all results: as many as the registers have lanes, or fewer.
+    template <int Registers>
     void columns(std::ptrdiff_t first, std::ptrdiff_t number, std::ptrdiff_t count) {
         column = first;
         columnsUsed = number;
-        const bool copies = !p.b.rowsTouch() || columnsUsed < width;
-        const bool isPlain =
-            p.inner <= depth && columnsUsed == width && p.a.movesByBytes() && p.dst.rowsTouch() && !p.addend;
+        second = Registers == 2 ? number - lanes : 0;
+        const bool isFull = columnsUsed >= lanes;
+        const bool copies = !p.b.rowsTouch() || !isFull;
+        const bool isPlain = p.inner <= depth && isFull && p.a.movesByBytes() && p.dst.rowsTouch() && !p.addend;
         for (inner = 0; inner < p.inner; inner += depth) {
             length = std::min(depth, p.inner - inner);
             for (object = 0; object < count; ++object) {
                 if (!copies) {
-                    panel = p.b.at(object, inner, column);
-                    panelStep = p.b.step[1];
+                    panel = {p.b.at(object, inner, column), length, p.b.step[1], second};
                 } else if (object == 0 || !p.b.isSingle()) {
-                    copyPanel();
+                    copyPanel<Registers>();
                 }
                 if (isPlain) {
-                    overPlainRows();
+                    overPlainRows<Registers>();
                 } else {
-                    overRows();
+                    overRows<Registers>();
                 }
             }
         }
     }
 
-    // The columns behind the last one repeat it, so that they can raise no flag of their own.
+    // The column of a lane. The lanes behind the last column repeat it, so that they can raise no flag of their own.
+    std::ptrdiff_t columnOf(std::ptrdiff_t lane) const {
+        return column + (lane < lanes ? std::min(lane, columnsUsed - 1) : second + lane - lanes);
+    }
+
+    template <int Registers>
     void copyPanel() {
-        panel = copiedPanel;
-        panelStep = bytes(width);
-        const bool isTurned = columnsUsed == width && p.b.transposed().rowsTouch() && p.b.movesByBytes();
-        const std::ptrdiff_t turned = isTurned ? turnIntoPanel() : 0;
-        for (std::ptrdiff_t j = 0; j < width; ++j) {
-            const std::ptrdiff_t from = column + std::min(j, columnsUsed - 1);
+        panel = {copiedPanel, length, bytes(width), lanes};
+        const bool isTurned = columnsUsed >= lanes && p.b.transposed().rowsTouch() && p.b.movesByBytes();
+        const std::ptrdiff_t turned = isTurned ? turnIntoPanel<Registers>() : 0;
+        for (std::ptrdiff_t lane = 0; lane < Registers * lanes; ++lane) {
             if (p.b.movesByBytes()) {
-                const T *element = p.b.at(object, inner, from);
+                const T *element = p.b.at(object, inner, columnOf(lane));
                 const std::ptrdiff_t step = p.b.step[1];
                 for (std::ptrdiff_t k = turned; k < length; ++k) {
-                    copiedPanel[k * width + j] = *shifted(element, k * step);
+                    copiedPanel[k * width + lane] = *shifted(element, k * step);
                 }
             } else {
                 for (std::ptrdiff_t k = 0; k < length; ++k) {
-                    copiedPanel[k * width + j] = *p.b.at(object, inner + k, from);
+                    copiedPanel[k * width + lane] = *p.b.at(object, inner + k, columnOf(lane));
                 }
             }
         }
     }
 
     // Columns that touch, four elements of each at a time. Returns how many of the elements there were.
+    template <int Registers>
     std::ptrdiff_t turnIntoPanel() {
         const T *first = p.b.at(object, inner, column);
         const std::ptrdiff_t columnStep = p.b.step[2];
         const std::ptrdiff_t whole = length / 4 * 4;
         for (std::ptrdiff_t k = 0; k < whole; k += 4) {
 #pragma GCC unroll 2
-            for (std::ptrdiff_t j = 0; j < width; j += fullLanes<T>) {
+            for (std::ptrdiff_t r = 0; r < Registers; ++r) {
                 std::array<const T *, fullLanes<T>> from;
 #pragma GCC unroll 8
-                for (int lane = 0; lane < fullLanes<T>; ++lane) {
-                    from[lane] = shifted(first, (j + lane) * columnStep) + k;
+                for (std::ptrdiff_t lane = 0; lane < lanes; ++lane) {
+                    from[lane] = shifted(first, (r * second + lane) * columnStep) + k;
                 }
                 const GroupColumns<T> rows = columnsOf<4, true>(from);
 #pragma GCC unroll 4
                 for (int i = 0; i < 4; ++i) {
-                    rows[i].store(copiedPanel + (k + i) * width + j);
+                    rows[i].store(copiedPanel + (k + i) * width + r * lanes);
                 }
             }
         }
         return whole;
     }
 
-    // Where sums neither go on nor pass through copies they never leave their registers.
-    void overPlainRows() const {
-        const T *a = p.a.at(object, 0, 0);
-        T *dst = p.dst.at(object, 0, column);
+    // Calls f(row, number of rows) with as many rows at a time as a block has.
+    template <class F>
+    [[gnu::always_inline]] static void forEachBlock(std::ptrdiff_t rows, const F &f) {
         std::ptrdiff_t row = 0;
-        for (; row + blockRows <= p.rows; row += blockRows) {
-            plainRows<blockRows>(shifted(a, row * p.a.step[1]), shifted(dst, row * p.dst.step[1]));
+        for (; row + blockRows <= rows; row += blockRows) {
+            f(row, std::integral_constant<int, blockRows>());
         }
-        for (; row < p.rows; ++row) {
-            plainRows<1>(shifted(a, row * p.a.step[1]), shifted(dst, row * p.dst.step[1]));
-        }
-    }
-
-    template <int Rows>
-    [[gnu::always_inline]] void plainRows(const T *a, T *dst) const {
-        const std::ptrdiff_t aRow = p.a.step[1];
-        const std::ptrdiff_t aElement = p.a.step[2];
-        const std::ptrdiff_t bStep = panelStep;
-        const std::ptrdiff_t dstRow = p.dst.step[1];
-        const T *b = panel;
-        L low[Rows] = {};
-        L high[Rows] = {};
-        for (std::ptrdiff_t k = length; k > 0; --k) {
-            const L b0 = L::load(b);
-            const L b1 = L::load(b + fullLanes<T>);
-#pragma GCC unroll 4
-            for (int i = 0; i < Rows; ++i) {
-                const L factor = broadcast(shifted(a, i * aRow));
-                low[i] = low[i] + factor * b0;
-                high[i] = high[i] + factor * b1;
-            }
-            a = shifted(a, aElement);
-            b = shifted(b, bStep);
-        }
-#pragma GCC unroll 4
-        for (int i = 0; i < Rows; ++i) {
-            low[i].store(shifted(dst, i * dstRow));
-            high[i].store(shifted(dst, i * dstRow) + fullLanes<T>);
-        }
-    }
-
-    void overRows() {
-        std::ptrdiff_t row = 0;
-        for (; row + blockRows <= p.rows; row += blockRows) {
-            block<4>(row);
-        }
-        switch (p.rows - row) {
+        switch (rows - row) {
         case 3:
-            return block<3>(row);
+            return f(row, std::integral_constant<int, 3>());
         case 2:
-            return block<2>(row);
+            return f(row, std::integral_constant<int, 2>());
         case 1:
-            return block<1>(row);
+            return f(row, std::integral_constant<int, 1>());
         default:
             return;
         }
     }
 
+    // Where sums neither go on nor pass through copies they never leave their registers.
+    template <int Registers>
+    void overPlainRows() const {
+        const T *a = p.a.at(object, 0, 0);
+        T *dst = p.dst.at(object, 0, column);
+        const std::ptrdiff_t aRow = p.a.step[1];
+        const std::ptrdiff_t aElement = p.a.step[2];
+        const std::ptrdiff_t dstRow = p.dst.step[1];
+        const std::ptrdiff_t dstSecond = second;
+        const Panel b = panel;
+        forEachBlock(
+            p.rows, [&](std::ptrdiff_t row, auto rows) __attribute__((always_inline)) {
+                Block<rows, Registers> sums = {};
+                sum(sums, shifted(a, row * aRow), aRow, aElement, b);
+                T *to = shifted(dst, row * dstRow);
+#pragma GCC unroll 4
+                for (const auto &ofRow : sums) {
+#pragma GCC unroll 2
+                    for (std::size_t r = 0; r < Registers; ++r) {
+                        ofRow[r].store(to + std::ptrdiff_t(r) * dstSecond);
+                    }
+                    to = shifted(to, dstRow);
+                }
+            });
+    }
+
+    template <int Registers>
+    void overRows() {
+        forEachBlock(p.rows, [&](std::ptrdiff_t row, auto rows) { block<rows, Registers>(row); });
+    }
+
     // Some rows of the panel's columns.
-    template <int Rows>
+    template <int Rows, int Registers>
     void block(std::ptrdiff_t row) {
-        Block sums = {};
+        Block<Rows, Registers> sums = {};
         if (inner != 0) {
-            forEachRegister<Rows>(
+            forEachRegister<Rows, Registers>(
                 p.dst,
                 row, [&](int i, int r, auto *place) __attribute__((always_inline)) { sums[i][r] = L::load(place); });
         }
         if (p.a.movesByBytes()) {
-            sum<Rows>(sums, p.a.at(object, row, inner), p.a.step[1], p.a.step[2]);
+            sum(sums, p.a.at(object, row, inner), p.a.step[1], p.a.step[2], panel);
         } else {
             T copied[blockRows * depth];
             for (std::ptrdiff_t i = 0; i < Rows; ++i) {
@@ -188,76 +203,77 @@ private:
                     copied[k * blockRows + i] = *p.a.at(object, row + i, inner + k);
                 }
             }
-            sum<Rows>(sums, copied, sizeof(T), bytes(blockRows));
+            sum(sums, copied, sizeof(T), bytes(blockRows), panel);
         }
         if (p.addend && inner + length == p.inner) {
-            forEachRegister<Rows>(
+            forEachRegister<Rows, Registers>(
                 *p.addend, row, [&](int i, int r, auto *place) __attribute__((always_inline)) {
                     sums[i][r] = sums[i][r] + L::load(place);
                 });
         }
-        store<Rows>(sums, row);
+        store(sums, row);
     }
 
-    template <int Rows>
-    [[gnu::always_inline]] void sum(Block &sums, const T *a, std::ptrdiff_t aRow, std::ptrdiff_t aElement) const {
-        const T *b = panel;
-        const std::ptrdiff_t bStep = panelStep;
-        const std::ptrdiff_t n = length;
-        Block local = sums;
-        for (std::ptrdiff_t k = 0; k < n; ++k) {
-            const L b0 = L::load(b);
-            const L b1 = L::load(b + fullLanes<T>);
-            const T *element = a;
+    // A function of what it is given alone: members would be read again after everything that is stored.
+    template <std::size_t Rows, std::size_t Registers>
+    [[gnu::always_inline]] static void sum(std::array<std::array<L, Registers>, Rows> &sums, const T *a,
+                                           std::ptrdiff_t aRow, std::ptrdiff_t aElement, Panel b) {
+        auto local = sums;
+        for (; b.rows > 0; --b.rows) {
+            std::array<L, Registers> columns;
+#pragma GCC unroll 2
+            for (std::size_t r = 0; r < Registers; ++r) {
+                columns[r] = L::load(b.first + std::ptrdiff_t(r) * b.second);
+            }
 #pragma GCC unroll 4
-            for (int i = 0; i < Rows; ++i) {
-                const L factor = L::splat(*element);
-                local[i][0] = local[i][0] + factor * b0;
-                local[i][1] = local[i][1] + factor * b1;
-                element = shifted(element, aRow);
+            for (std::size_t i = 0; i < Rows; ++i) {
+                const L factor = broadcast(shifted(a, std::ptrdiff_t(i) * aRow));
+#pragma GCC unroll 2
+                for (std::size_t r = 0; r < Registers; ++r) {
+                    local[i][r] = local[i][r] + factor * columns[r];
+                }
             }
             a = shifted(a, aElement);
-            b = shifted(b, bStep);
+            b.first = shifted(b.first, b.rowStep);
         }
         sums = local;
     }
 
     // Calls f(row, register, address) with the memory of the block's elements in an operand, or with a copy of them
-    // where the elements of a row do not fill two registers.
-    template <int Rows, class Element, class F>
+    // where registers cannot be loaded from it.
+    template <int Rows, int Registers, class Element, class F>
     [[gnu::always_inline]] void forEachRegister(const Addresses<Element> &operand, std::ptrdiff_t row,
                                                 const F &f) const {
         for (int i = 0; i < Rows; ++i) {
-            if (operand.rowsTouch() && columnsUsed == width) {
-                const T *place = operand.at(object, row + i, column);
-                f(i, 0, place);
-                f(i, 1, place + fullLanes<T>);
+            T copied[width];
+            const T *place = copied;
+            if (operand.rowsTouch() && columnsUsed >= lanes) {
+                place = operand.at(object, row + i, column);
             } else {
-                T copied[width];
-                for (std::ptrdiff_t j = 0; j < width; ++j) {
+                for (std::ptrdiff_t j = 0; j < std::max(lanes, columnsUsed); ++j) {
                     copied[j] = *operand.at(object, row + i, column + std::min(j, columnsUsed - 1));
                 }
-                f(i, 0, copied);
-                f(i, 1, copied + fullLanes<T>);
+            }
+            for (int r = 0; r < Registers; ++r) {
+                f(i, r, place + r * second);
             }
         }
     }
 
-    template <int Rows>
-    [[gnu::always_inline]] void store(const Block &sums, std::ptrdiff_t row) const {
-        for (int i = 0; i < Rows; ++i) {
-            if (p.dst.rowsTouch() && columnsUsed == width) {
-                T *place = p.dst.at(object, row + i, column);
-                sums[i][0].store(place);
-                sums[i][1].store(place + fullLanes<T>);
-            } else {
-                T copied[width];
-                sums[i][0].store(copied);
-                sums[i][1].store(copied + fullLanes<T>);
-                for (std::ptrdiff_t j = 0; j < columnsUsed; ++j) {
-                    *p.dst.at(object, row + i, column + j) = copied[j];
-                }
+    template <std::size_t Rows, std::size_t Registers>
+    [[gnu::always_inline]] void store(const std::array<std::array<L, Registers>, Rows> &sums,
+                                      std::ptrdiff_t row) const {
+        const bool isDirect = p.dst.rowsTouch() && columnsUsed >= lanes;
+        for (const auto &ofRow : sums) {
+            T copied[width] = {};
+            T *const place = isDirect ? p.dst.at(object, row, column) : copied;
+            for (std::size_t r = 0; r < Registers; ++r) {
+                ofRow[r].store(place + std::ptrdiff_t(r) * second);
             }
+            for (std::ptrdiff_t j = 0; j < columnsUsed && !isDirect; ++j) {
+                *p.dst.at(object, row, column + j) = copied[j];
+            }
+            ++row;
         }
     }
 
@@ -265,10 +281,10 @@ private:
     std::ptrdiff_t object = 0;
     std::ptrdiff_t column = 0;
     std::ptrdiff_t columnsUsed = 0;
+    std::ptrdiff_t second = 0; // the first column of the second register, counted from `column`
     std::ptrdiff_t inner = 0;
     std::ptrdiff_t length = 0;
-    const T *panel = nullptr;
-    std::ptrdiff_t panelStep = 0;
+    Panel panel = {};
     T copiedPanel[width * depth];
 };
 

@@ -8,6 +8,7 @@
 #include "products/lane_product.h"
 #include "products/panel_product.h"
 #include "products/product.h"
+#include "products/row_product.h"
 #include "products/staging.h"
 #include "products/unrolled_product.h"
 #include "products/vector_product.h"
@@ -147,8 +148,14 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
             multiplySmall<T, order>(p, count);
         } else {
             const std::ptrdiff_t done = GroupProduct<T>::isBetter(p, count) ? GroupProduct<T>::run(p, count) : 0;
-            if (done < count) {
-                multiplyByPanels(p.from(done), count - done);
+            if (done == count) {
+                return lxpStatusOk;
+            }
+            const MatrixProduct<T> rest = p.from(done);
+            if (RowProduct<T>::accepts(rest, count - done)) {
+                RowProduct<T>::run(rest, count - done);
+            } else {
+                multiplyByPanels(rest, count - done);
             }
         }
         return lxpStatusOk;

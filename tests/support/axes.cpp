@@ -47,8 +47,8 @@ const std::vector<Shape> flatProducts = {{1, 5, 1}, {5, 1, 5}, {1, 1, 7}, {7, 1,
                                          {5, 6, 6}, {6, 5, 6}, {8, 7, 8}, {2, 2, 9}, {9, 2, 2}};
 
 // Blocks of four rows by two registers, stretches of the inner dimension, with every kind of remainder.
-const std::vector<Shape> aroundBlocks = {{4, 9, 16}, {5, 2, 17}, {6, 3, 15},  {7, 10, 8},  {8, 16, 24},
-                                         {3, 31, 9}, {2, 70, 5}, {1, 130, 3}, {5, 129, 17}};
+const std::vector<Shape> aroundBlocks = {{4, 9, 16}, {5, 2, 17},  {6, 3, 15},   {7, 10, 8},   {8, 16, 24}, {3, 31, 9},
+                                         {2, 70, 5}, {1, 130, 3}, {5, 129, 17}, {3, 130, 12}, {2, 129, 20}};
 
 // One row and one column: loops that run once, and remainders without a whole register.
 const std::vector<Shape> rowsAndColumns = {{2, 1}, {5, 1}, {8, 1}, {9, 1}, {17, 1}, {31, 1},
@@ -141,9 +141,16 @@ const SizeAxes productSizes = {
 };
 
 const SizeAxes matrixVectorSizes = {
-    .all = join({squares(1, 9), rowsAndColumns, rectangles, wideSquares, {{3, 70}, {5, 130}, {2, 300}, {70, 3}}}),
+    .all = join({squares(1, 9),
+                 rowsAndColumns,
+                 rectangles,
+                 wideSquares,
+                 {{3, 70}, {5, 130}, {2, 300}, {70, 3}, {19, 6}, {127, 5}}}),
     .small = join({squares(1, 9), {{3, 4}, {4, 3}, {6, 5}}}),
-    .tight = join({squares(1, 9), rowsAndColumns, rectangles, {{12, 12}, {17, 17}, {15, 3}, {23, 2}, {3, 70}}}),
+    .tight = join({squares(1, 9),
+                   rowsAndColumns,
+                   rectangles,
+                   {{12, 12}, {17, 17}, {15, 3}, {23, 2}, {3, 70}, {19, 6}, {127, 5}}}),
     .special = matrixSizes.special,
 };
 

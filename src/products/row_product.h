@@ -1,0 +1,186 @@
+// Copyright (c) 2026 The lxpm authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// One row times a matrix of its own, of any size. Each element of the matrix is needed once, so it goes from memory
+// straight into the sums, which fill whole registers: rows that touch as they stand, columns that touch turned on their
+// way. The last register overlaps the one before it where the columns are no multiple of its lanes.
+
+#include "products/product.h"
+#include "products/readers.h"
+#include "runtime/lanes.h"
+
+#include <array>
+#include <cstddef>
+
+namespace lxpm {
+
+template <class T>
+class RowProduct {
+    static constexpr std::ptrdiff_t lanes = fullLanes<T>;
+    static constexpr int turnedRegisters = 2; // at a time; more gain nothing
+
+    using L = Lanes<T, fullLanes<T>>;
+
+public:
+    static bool accepts(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+        return p.rows == 1 && (count == 1 || !p.b.isSingle()) && p.columns >= lanes && p.a.movesByBytes() &&
+               p.b.movesByBytes() && (p.b.rowsTouch() || p.b.transposed().rowsTouch()) && p.dst.rowsTouch() &&
+               (!p.addend || p.addend->rowsTouch());
+    }
+
+    static void run(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+        const bool asTheyStand = p.b.rowsTouch();
+        for (std::ptrdiff_t object = 0; object < count; ++object) {
+            const Row row = {p.inner,
+                             p.a.at(object, 0, 0),
+                             p.a.step[2],
+                             p.b.at(object, 0, 0),
+                             asTheyStand ? p.b.step[1] : p.b.step[2],
+                             p.addend ? p.addend->at(object, 0, 0) : nullptr,
+                             p.dst.at(object, 0, 0)};
+            asTheyStand ? row.template over<8, false>(p.columns) : row.template over<turnedRegisters, true>(p.columns);
+        }
+    }
+
+private:
+    // Columns whose elements touch, a register's lanes of them after the other. Four columns share a pointer: one for
+    // each of them would not stay in the processor's registers.
+    template <std::size_t registers>
+    class Columns {
+    public:
+        [[gnu::always_inline]] Columns(const T *first, std::ptrdiff_t columnStep)
+            : step(columnStep), thrice(3 * columnStep) {
+            for (std::size_t i = 0; i < quads; ++i) {
+                pointers[i] = shifted(first, 4 * std::ptrdiff_t(i) * step);
+            }
+        }
+
+        // The next elements of each column, as rows.
+        template <int elements>
+        [[gnu::always_inline]] std::array<GroupColumns<T>, registers> next() {
+            std::array<GroupColumns<T>, registers> rows;
+#pragma GCC unroll 4
+            for (std::size_t r = 0; r < registers; ++r) {
+                std::array<const T *, fullLanes<T>> from;
+#pragma GCC unroll 4
+                for (std::size_t quad = 0; quad < fullLanes<T> / 4; ++quad) {
+                    const T *const first = pointers[r * (fullLanes<T> / 4) + quad];
+                    from[4 * quad] = first;
+                    from[4 * quad + 1] = shifted(first, step);
+                    from[4 * quad + 2] = shifted(first, 2 * step);
+                    from[4 * quad + 3] = shifted(first, thrice);
+                }
+                rows[r] = columnsOf<elements, false>(from);
+            }
+#pragma GCC unroll 4
+            for (std::size_t i = 0; i < quads; ++i) {
+                pointers[i] += elements;
+            }
+            return rows;
+        }
+
+    private:
+        static constexpr std::size_t quads = registers * fullLanes<T> / 4;
+
+        std::ptrdiff_t step;
+        std::ptrdiff_t thrice;
+        std::array<const T *, quads> pointers;
+    };
+
+    struct Row {
+        std::ptrdiff_t inner;
+        const T *a;
+        std::ptrdiff_t aStep;
+        const T *b;
+        std::ptrdiff_t bStep; // from row to row, or from column to column if these touch
+        const T *addend;
+        T *dst;
+
+        // All columns, as many registers at a time as there are.
+        template <int registers, bool isTurned>
+        [[gnu::always_inline]] void over(std::ptrdiff_t columns) const {
+            std::ptrdiff_t column = 0;
+            for (; column + registers * lanes <= columns; column += registers * lanes) {
+                sum<registers, isTurned>(column);
+            }
+            overRest<registers / 2, isTurned>(column, columns);
+        }
+
+        template <int registers, bool isTurned>
+        [[gnu::always_inline]] void overRest(std::ptrdiff_t column, std::ptrdiff_t columns) const {
+            if constexpr (registers > 0) {
+                if (column + registers * lanes <= columns) {
+                    sum<registers, isTurned>(column);
+                    column += registers * lanes;
+                }
+                overRest<registers / 2, isTurned>(column, columns);
+            } else if (column < columns) {
+                sum<1, isTurned>(columns - lanes);
+            }
+        }
+
+        template <int registers, bool isTurned>
+        [[gnu::always_inline]] void sum(std::ptrdiff_t column) const {
+            std::array<L, registers> sums = {};
+            isTurned ? turned(sums, shifted(b, column * bStep)) : asItStands(sums, b + column);
+#pragma GCC unroll 8
+            for (int r = 0; r < registers; ++r) {
+                const std::ptrdiff_t place = column + r * lanes;
+                (addend != nullptr ? sums[r] + L::load(addend + place) : sums[r]).store(dst + place);
+            }
+        }
+
+        template <std::size_t registers>
+        [[gnu::always_inline]] void asItStands(std::array<L, registers> &sums, const T *row) const {
+            const T *element = a;
+            for (std::ptrdiff_t k = 0; k < inner; ++k) {
+                const L factor = broadcast(element);
+#pragma GCC unroll 8
+                for (std::size_t r = 0; r < registers; ++r) {
+                    sums[r] = sums[r] + factor * L::load(row + r * lanes);
+                }
+                element = shifted(element, aStep);
+                row = shifted(row, bStep);
+            }
+        }
+
+        // Four elements of each column at a time.
+        template <std::size_t registers>
+        [[gnu::always_inline]] void turned(std::array<L, registers> &sums, const T *first) const {
+            Columns<registers> columns(first, bStep);
+            const T *element = a;
+            std::ptrdiff_t left = inner;
+            for (; left >= 4; left -= 4) {
+                addTurned<4>(sums, columns, element);
+                element = shifted(element, 4 * aStep);
+            }
+            switch (left) {
+            case 3:
+                return addTurned<3>(sums, columns, element);
+            case 2:
+                return addTurned<2>(sums, columns, element);
+            case 1:
+                return addTurned<1>(sums, columns, element);
+            default:
+                return;
+            }
+        }
+
+        template <int elements, std::size_t registers>
+        [[gnu::always_inline]] void addTurned(std::array<L, registers> &sums, Columns<registers> &columns,
+                                              const T *element) const {
+            const auto rows = columns.template next<elements>();
+#pragma GCC unroll 4
+            for (int i = 0; i < elements; ++i) {
+                const L factor = broadcast(shifted(element, i * aStep));
+#pragma GCC unroll 4
+                for (std::size_t r = 0; r < registers; ++r) {
+                    sums[r] = sums[r] + factor * rows[r][i];
+                }
+            }
+        }
+    };
+};
+
+} // namespace lxpm
