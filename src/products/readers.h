@@ -59,27 +59,24 @@ template <int columns, bool readsOn>
 // The same of four rows, two columns at a time.
 template <int columns, bool>
 [[gnu::always_inline]] inline GroupColumns<double> columnsOf(const std::array<const double *, 4> &row) {
+    GroupColumns<double> group;
     if constexpr (columns == 1) {
-        return {Group<double>{_mm256_setr_pd(*row[0], *row[1], *row[2], *row[3])}};
+        group[0] = {_mm256_setr_pd(*row[0], *row[1], *row[2], *row[3])};
     } else {
-        const auto pair = [&](int column) __attribute__((always_inline)) {
-            std::array<Lanes<double, 4>, 2> lanes = {loadHalves(row[0] + column, row[2] + column),
-                                                     loadHalves(row[1] + column, row[3] + column)};
-            transposeHalves(lanes);
-            return lanes;
-        };
-        const auto first = pair(0);
-        if constexpr (columns == 2) {
-            return {first[0], first[1]};
-        } else {
-            const auto last = pair(columns - 2);
-            if constexpr (columns == 3) {
-                return {first[0], first[1], last[1]};
-            } else {
-                return {first[0], first[1], last[0], last[1]};
-            }
+        // The second pair of three columns starts with the second column.
+        group[0] = loadHalves(row[0], row[2]);
+        group[1] = loadHalves(row[1], row[3]);
+        transposeHalves(group[0], group[1]);
+        if constexpr (columns > 2) {
+            group[2] = loadHalves(row[0] + columns - 2, row[2] + columns - 2);
+            group[3] = loadHalves(row[1] + columns - 2, row[3] + columns - 2);
+            transposeHalves(group[2], group[3]);
+        }
+        if constexpr (columns == 3) {
+            group[2] = group[3];
         }
     }
+    return group;
 }
 
 template <class T, Reading reading, std::ptrdiff_t Step = 0>

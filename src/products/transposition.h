@@ -9,6 +9,7 @@
 
 #include "products/readers.h"
 #include "runtime/object_walk.h"
+#include "runtime/with_order.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -73,20 +74,13 @@ private:
             const bool isDense = m.src.step[1] == 3 * size && m.dst.step[1] == 3 * size;
             return m.height == 3 && m.width == 3 ? (isDense ? byOrder<3, true> : byOrder<3, false>) : oneByOne;
         }
-        switch (m.height == m.width ? m.height : 0) {
-        case 4:
-            return byOrder<4, false>;
-        case 5:
-            return byOrder<5, false>;
-        case 6:
-            return byOrder<6, false>;
-        case 7:
-            return byOrder<7, false>;
-        case 8:
-            return byOrder<8, false>;
-        default:
-            return m.height < rows ? bySmallBlocks : isLarge(m) ? byTiles : byBlocks;
-        }
+        return withOrder<4, 16>(m.height == m.width ? static_cast<int>(m.height) : 0, [&](auto order) -> Kernel {
+            if constexpr (order != 0) {
+                return byOrder<order, false>;
+            } else {
+                return m.height < rows ? bySmallBlocks : isLarge(m) ? byTiles : byBlocks;
+            }
+        });
     }
 
     // Whether a pair of matrices is more than a tile and too large for one thread's share of the caches.
@@ -141,15 +135,17 @@ private:
     }
 
     [[gnu::always_inline]] static void block(const Pair &pair, std::ptrdiff_t row, std::ptrdiff_t column) {
+        const T *const first = pair.from(row, column);
         std::array<const T *, rows> from;
 #pragma GCC unroll 8
         for (int i = 0; i < rows; ++i) {
-            from[i] = pair.from(row + i, column);
+            from[i] = shifted(first, i * pair.srcStep);
         }
         const GroupColumns<T> columns = columnsOf<4, true>(from);
+        T *const to = pair.to(column, row);
 #pragma GCC unroll 4
         for (int i = 0; i < 4; ++i) {
-            columns[i].store(pair.to(column + i, row));
+            columns[i].store(shifted(to, i * pair.dstStep));
         }
     }
 
@@ -173,7 +169,9 @@ private:
                     denseOrder3(pair.src, pair.dst);
                 } else if constexpr (Order == 3) {
                     order3(pair);
-                } else if constexpr (Order >= rows && Order % rows == 0) {
+                } else if constexpr (Order > 2 * side) {
+                    area(pair, {0, Order}, {0, Order});
+                } else if constexpr (Order % rows == 0) {
 #pragma GCC unroll 2
                     for (int row = 0; row < Order; row += rows) {
 #pragma GCC unroll 2

@@ -233,10 +233,10 @@ inline void transposeHalves(std::array<Lanes<float, 8>, 4> &r) {
     r[3].vector = _mm256_shuffle_ps(high01, high23, 0xee);              // 03 13 23 33
 }
 
-inline void transposeHalves(std::array<Lanes<double, 4>, 2> &r) {
-    const __m256d first = _mm256_unpacklo_pd(r[0].vector, r[1].vector);
-    r[1].vector = _mm256_unpackhi_pd(r[0].vector, r[1].vector);
-    r[0].vector = first;
+inline void transposeHalves(Lanes<double, 4> &first, Lanes<double, 4> &second) {
+    const __m256d low = _mm256_unpacklo_pd(first.vector, second.vector);
+    second.vector = _mm256_unpackhi_pd(first.vector, second.vector);
+    first.vector = low;
 }
 
 // Four lanes with the second and the last one exchanged; and those of `others` with the third one of `third`.
