@@ -70,8 +70,8 @@ public:
         for (const auto &source : operands.src) {
             byBytes &= source.pointerStep[0] == 0;
         }
-        const Split chosen = byBytes ? chooseColumns<Walking::ByBytes>(columns, Lengths())
-                                     : chooseColumns<Walking::ThroughPointers>(columns, Lengths());
+        const Split chosen =
+            byBytes ? chooseRows<Walking::ByBytes>(rows, columns) : chooseRows<Walking::ThroughPointers>(rows, columns);
         chosen(operands, rows, columns, objects);
     }
 
@@ -112,17 +112,27 @@ private:
     // Short rows whose lengths the compiler knows: they are written out.
     using Lengths = std::integer_sequence<int, 8, 12, 16, 32, 64>;
 
-    template <Walking walking, int... length>
+    template <Walking walking>
+    static Split chooseRows(int rows, int columns) {
+        if constexpr (sources == 1) {
+            if (rows > 1) {
+                return chooseColumns<walking, 0>(columns, Lengths());
+            }
+        }
+        return chooseColumns<walking, 1>(columns, Lengths());
+    }
+
+    template <Walking walking, int Rows, int... length>
     static Split chooseColumns(int columns, std::integer_sequence<int, length...>) {
-        Split chosen = splitWalking<walking, 0>;
-        ((columns == length ? void(chosen = splitWalking<walking, length>) : void()), ...);
+        Split chosen = splitWalking<walking, Rows, 0>;
+        ((columns == length ? void(chosen = splitWalking<walking, Rows, length>) : void()), ...);
         return chosen;
     }
 
-    // Columns: their number where it is known beforehand, else 0.
-    template <Walking walking, int Columns>
+    // Rows, columns: their numbers where they are known beforehand, else 0.
+    template <Walking walking, int Rows, int Columns>
     static void splitWalking(const Operands &operands, int rows, int columns, int objects) {
-        splitObjects<walking>(operands, rows, Columns != 0 ? Columns : columns, objects, Index());
+        splitObjects<walking>(operands, Rows != 0 ? Rows : rows, Columns != 0 ? Columns : columns, objects, Index());
     }
 
     template <Walking walking, std::size_t... s>

@@ -8,6 +8,9 @@
 #include "runtime/rows.h"
 #include "runtime/work.h"
 
+#include <algorithm>
+#include <cstddef>
+
 namespace lxpm {
 
 namespace {
@@ -30,29 +33,42 @@ Addresses<const T> diagonalOf(Addresses<const T> matrix) {
     return matrix;
 }
 
-// Where the elements of a diagonal stand apart, a lane costs as much to fill as the sum that it would save.
+// The traces of some objects, one beside the other, from addresses that are bytes apart.
 //
 // Order: of the matrices where it is known beforehand, else 0.
-template <int Order, class T>
-void tracesOneByOne(const Addresses<const T> &shared, T *dst, int anyOrder, int objects) {
-    const Addresses<const T> diagonal = shared; // a copy that no store below can reach
+template <int Order, int Objects, class T>
+[[gnu::always_inline]] inline void tracesOf(const T *first, std::ptrdiff_t objectStep, std::ptrdiff_t elementStep,
+                                            int anyOrder, T *dst) {
     const int order = Order != 0 ? Order : anyOrder;
-    if (diagonal.pointers == nullptr) {
-        const T *first = diagonal.at(0, 0, 0);
-        for (int object = 0; object < objects; ++object) {
-            T sum = 0;
-            const T *element = first;
+    T sums[Objects] = {};
 #pragma GCC unroll 6
-            for (int i = 0; i < order; ++i) {
-                sum += *element;
-                element = shifted(element, diagonal.step[2]);
-            }
-            dst[object] = sum;
-            first = shifted(first, diagonal.step[0]);
+    for (int i = 0; i < order; ++i) {
+#pragma GCC unroll 4
+        for (int object = 0; object < Objects; ++object) {
+            sums[object] += *shifted(first, object * objectStep);
         }
-        return;
+        first = shifted(first, elementStep);
     }
-    for (int object = 0; object < objects; ++object) {
+    std::copy_n(sums, Objects, dst);
+}
+
+// Where the elements of a diagonal stand apart, a lane costs as much to fill as the sum that it would save. Short
+// diagonals are written out; of longer ones several are summed at a time, for none to wait for its last sum.
+template <int Order, class T>
+void tracesOneByOne(const Addresses<const T> &shared, T *dst, int order, int objects) {
+    const Addresses<const T> diagonal = shared; // a copy that no store below can reach
+    int object = 0;
+    if (diagonal.pointers == nullptr) {
+        const std::ptrdiff_t objectStep = diagonal.step[0];
+        const std::ptrdiff_t elementStep = diagonal.step[2];
+        const T *first = diagonal.at(0, 0, 0);
+        constexpr int atATime = Order != 0 ? 1 : 4;
+        for (; object + atATime <= objects; object += atATime) {
+            tracesOf<Order, atATime>(first, objectStep, elementStep, order, dst + object);
+            first = shifted(first, atATime * objectStep);
+        }
+    }
+    for (; object < objects; ++object) {
         T sum = 0;
         for (int i = 0; i < order; ++i) {
             sum += *diagonal.at(object, 0, i);
