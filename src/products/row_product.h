@@ -49,10 +49,13 @@ private:
     template <std::size_t registers>
     class Columns {
     public:
-        [[gnu::always_inline]] Columns(const T *first, std::ptrdiff_t columnStep)
+        [[gnu::always_inline]] Columns(const T *first, std::ptrdiff_t columnStep, std::ptrdiff_t last)
             : step(columnStep), thrice(3 * columnStep) {
             for (std::size_t i = 0; i < quads; ++i) {
-                pointers[i] = shifted(first, 4 * std::ptrdiff_t(i) * step);
+                const bool isInLast = i + quads / registers >= quads;
+                const std::size_t fromLast = i + quads / registers - quads;
+                pointers[i] =
+                    shifted(first, (isInLast ? last + 4 * std::ptrdiff_t(fromLast) : 4 * std::ptrdiff_t(i)) * step);
             }
         }
 
@@ -97,48 +100,49 @@ private:
         const T *addend;
         T *dst;
 
-        // All columns, as many registers at a time as there are.
+        // All columns, up to `registers` at a time.
         template <int registers, bool isTurned>
         [[gnu::always_inline]] void over(std::ptrdiff_t columns) const {
             std::ptrdiff_t column = 0;
             for (; column + registers * lanes <= columns; column += registers * lanes) {
-                sum<registers, isTurned>(column);
+                sum<registers, isTurned>(column, (registers - 1) * lanes);
             }
-            overRest<registers / 2, isTurned>(column, columns);
+            overRest<registers, isTurned>(column, columns);
         }
 
+        // As few registers as hold the rest.
         template <int registers, bool isTurned>
         [[gnu::always_inline]] void overRest(std::ptrdiff_t column, std::ptrdiff_t columns) const {
             if constexpr (registers > 0) {
-                if (column + registers * lanes <= columns) {
-                    sum<registers, isTurned>(column);
-                    column += registers * lanes;
+                if (column + (registers - 1) * lanes < columns) {
+                    sum<registers, isTurned>(column, columns - lanes - column);
+                } else {
+                    overRest<registers - 1, isTurned>(column, columns);
                 }
-                overRest<registers / 2, isTurned>(column, columns);
-            } else if (column < columns) {
-                sum<1, isTurned>(columns - lanes);
             }
         }
 
+        // The registers stand side by side from a column on, but for the last one, which is told where it starts.
         template <int registers, bool isTurned>
-        [[gnu::always_inline]] void sum(std::ptrdiff_t column) const {
+        [[gnu::always_inline]] void sum(std::ptrdiff_t column, std::ptrdiff_t last) const {
             std::array<L, registers> sums = {};
-            isTurned ? turned(sums, shifted(b, column * bStep)) : asItStands(sums, b + column);
+            isTurned ? turned(sums, shifted(b, column * bStep), last) : asItStands(sums, b + column, last);
 #pragma GCC unroll 8
             for (int r = 0; r < registers; ++r) {
-                const std::ptrdiff_t place = column + r * lanes;
+                const std::ptrdiff_t place = column + (r + 1 < registers ? r * lanes : last);
                 (addend != nullptr ? sums[r] + L::load(addend + place) : sums[r]).store(dst + place);
             }
         }
 
         template <std::size_t registers>
-        [[gnu::always_inline]] void asItStands(std::array<L, registers> &sums, const T *row) const {
+        [[gnu::always_inline]] void asItStands(std::array<L, registers> &sums, const T *row,
+                                               std::ptrdiff_t last) const {
             const T *element = a;
             for (std::ptrdiff_t k = 0; k < inner; ++k) {
                 const L factor = broadcast(element);
 #pragma GCC unroll 8
                 for (std::size_t r = 0; r < registers; ++r) {
-                    sums[r] = sums[r] + factor * L::load(row + r * lanes);
+                    sums[r] = sums[r] + factor * L::load(row + (r + 1 < registers ? std::ptrdiff_t(r) * lanes : last));
                 }
                 element = shifted(element, aStep);
                 row = shifted(row, bStep);
@@ -147,8 +151,8 @@ private:
 
         // Four elements of each column at a time.
         template <std::size_t registers>
-        [[gnu::always_inline]] void turned(std::array<L, registers> &sums, const T *first) const {
-            Columns<registers> columns(first, bStep);
+        [[gnu::always_inline]] void turned(std::array<L, registers> &sums, const T *first, std::ptrdiff_t last) const {
+            Columns<registers> columns(first, bStep, last);
             const T *element = a;
             std::ptrdiff_t left = inner;
             for (; left >= 4; left -= 4) {

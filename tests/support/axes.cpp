@@ -145,7 +145,7 @@ const SizeAxes matrixVectorSizes = {
                  rowsAndColumns,
                  rectangles,
                  wideSquares,
-                 {{3, 70}, {5, 130}, {2, 300}, {70, 3}, {19, 6}, {127, 5}}}),
+                 {{3, 70}, {5, 130}, {2, 300}, {70, 3}, {19, 6}, {61, 2}, {127, 5}}}),
     .small = join({squares(1, 9), {{3, 4}, {4, 3}, {6, 5}}}),
     .tight = join({squares(1, 9),
                    rowsAndColumns,
