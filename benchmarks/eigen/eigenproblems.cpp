@@ -74,17 +74,6 @@ LxpStatus symmetricVectors(const T *src, T *values, T *vectors, T *buffer, int o
         src, row * order, row, sizeof(T), buffer, vectors, row * order, row, sizeof(T), values, order, count);
 }
 
-// One matrix in each call.
-template <class T>
-LxpStatus symmetricValuesOfEach(const T *src, T *values, T *, T *buffer, int order, int count) {
-    const int row = order * static_cast<int>(sizeof(T));
-    for (int k = 0; k < count; ++k) {
-        exportOf<T>(lxpmEigenValuesSym_m_32f, lxpmEigenValuesSym_m_64f)(src + k * order * order, row, sizeof(T), buffer,
-                                                                        values + k * order, order);
-    }
-    return lxpStatusOk;
-}
-
 template <class T>
 LxpStatus generalValues(const T *src, T *values, T *, T *buffer, int order, int count) {
     const int row = order * static_cast<int>(sizeof(T));
@@ -100,14 +89,50 @@ LxpStatus generalVectors(const T *src, T *values, T *vectors, T *buffer, int ord
         count, buffer);
 }
 
-template <class T>
-LxpStatus generalValuesOfEach(const T *src, T *values, T *, T *buffer, int order, int count) {
-    const int row = order * static_cast<int>(sizeof(T));
-    for (int k = 0; k < count; ++k) {
-        exportOf<T>(lxpmEigenValues_m_32f, lxpmEigenValues_m_64f)(
-            src + k * order * order, row, sizeof(T), values + k * order, values + (count + k) * order, order, buffer);
+// One matrix in each call: one(matrix, its values, its vectors, what stands behind the values of all matrices).
+template <class T, class One>
+LxpStatus ofEach(const T *src, T *values, T *vectors, int order, int count, const One &one) {
+    const std::ptrdiff_t area = std::ptrdiff_t(order) * order;
+    for (std::ptrdiff_t k = 0; k < count; ++k) {
+        one(src + k * area, values + k * order, vectors + k * area, values + (count + k) * order);
     }
     return lxpStatusOk;
+}
+
+template <class T>
+LxpStatus symmetricValuesOfEach(const T *src, T *values, T *vectors, T *buffer, int order, int count) {
+    const int row = order * static_cast<int>(sizeof(T));
+    return ofEach(src, values, vectors, order, count, [=](const T *matrix, T *valuesOfOne, T *, T *) {
+        exportOf<T>(lxpmEigenValuesSym_m_32f, lxpmEigenValuesSym_m_64f)(matrix, row, sizeof(T), buffer, valuesOfOne,
+                                                                        order);
+    });
+}
+
+template <class T>
+LxpStatus symmetricVectorsOfEach(const T *src, T *values, T *vectors, T *buffer, int order, int count) {
+    const int row = order * static_cast<int>(sizeof(T));
+    return ofEach(src, values, vectors, order, count, [=](const T *matrix, T *valuesOfOne, T *vectorsOfOne, T *) {
+        exportOf<T>(lxpmEigenValuesVectorsSym_m_32f, lxpmEigenValuesVectorsSym_m_64f)(
+            matrix, row, sizeof(T), buffer, vectorsOfOne, row, sizeof(T), valuesOfOne, order);
+    });
+}
+
+template <class T>
+LxpStatus generalValuesOfEach(const T *src, T *values, T *vectors, T *buffer, int order, int count) {
+    const int row = order * static_cast<int>(sizeof(T));
+    return ofEach(src, values, vectors, order, count, [=](const T *matrix, T *real, T *, T *imaginary) {
+        exportOf<T>(lxpmEigenValues_m_32f, lxpmEigenValues_m_64f)(matrix, row, sizeof(T), real, imaginary, order,
+                                                                  buffer);
+    });
+}
+
+template <class T>
+LxpStatus generalVectorsOfEach(const T *src, T *values, T *vectors, T *buffer, int order, int count) {
+    const int row = order * static_cast<int>(sizeof(T));
+    return ofEach(src, values, vectors, order, count, [=](const T *matrix, T *real, T *vectorsOfOne, T *imaginary) {
+        exportOf<T>(lxpmEigenValuesVectorsRight_m_32f, lxpmEigenValuesVectorsRight_m_64f)(
+            matrix, row, sizeof(T), vectorsOfOne, row, sizeof(T), real, imaginary, order, buffer);
+    });
 }
 
 template <class T>
@@ -117,9 +142,11 @@ void appendType(std::vector<Case> &cases) {
         append<T>(cases, "EigenValuesSym_ma", size, n, Values::Sorted, false, symmetricValues<T>);
         append<T>(cases, "EigenValuesVectorsSym_ma", size, n, Values::Sorted, true, symmetricVectors<T>);
         append<T>(cases, "EigenValuesSym_m", size, n, Values::Sorted, false, symmetricValuesOfEach<T>);
+        append<T>(cases, "EigenValuesVectorsSym_m", size, n, Values::Sorted, true, symmetricVectorsOfEach<T>);
         append<T>(cases, "EigenValues_ma", size, n, Values::Pairs, false, generalValues<T>);
         append<T>(cases, "EigenValuesVectorsRight_ma", size, n, Values::Pairs, true, generalVectors<T>);
         append<T>(cases, "EigenValues_m", size, n, Values::Pairs, false, generalValuesOfEach<T>);
+        append<T>(cases, "EigenValuesVectorsRight_m", size, n, Values::Pairs, true, generalVectorsOfEach<T>);
     }
     // Beside a solution without iterations.
     append<T>(cases, "EigenValuesSym_ma", "3x3-direct", 3, Values::Sorted, false, symmetricValues<T>);

@@ -10,8 +10,9 @@ namespace lxpm::bench {
 
 namespace {
 
-// Orders 3 to 6 have unrolled kernels, 8 is the largest that does, 16 and 32 go by blocks.
-constexpr int orders[] = {3, 4, 5, 6, 8, 16, 32};
+// Orders 3 to 6 have unrolled kernels, 8 is the largest that does; 9 and 12, where the registers of a block do not fit,
+// and 16 and 32, where they do, go by blocks.
+constexpr int orders[] = {3, 4, 5, 6, 8, 9, 12, 16, 32};
 
 std::string square(int n) {
     return std::to_string(n) + "x" + std::to_string(n);

@@ -63,9 +63,11 @@ void addOrder(PeerTable &table, const std::string &type) {
     table.push_back({"EigenValuesSym_ma" + size, runSymmetric<T, n, false, false>});
     table.push_back({"EigenValuesSym_m" + size, runSymmetric<T, n, false, false>});
     table.push_back({"EigenValuesVectorsSym_ma" + size, runSymmetric<T, n, true, false>});
+    table.push_back({"EigenValuesVectorsSym_m" + size, runSymmetric<T, n, true, false>});
     table.push_back({"EigenValues_ma" + size, runGeneral<T, n, false>});
     table.push_back({"EigenValues_m" + size, runGeneral<T, n, false>});
     table.push_back({"EigenValuesVectorsRight_ma" + size, runGeneral<T, n, true>});
+    table.push_back({"EigenValuesVectorsRight_m" + size, runGeneral<T, n, true>});
 }
 
 } // namespace

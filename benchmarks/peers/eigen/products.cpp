@@ -105,8 +105,8 @@ void addOrders(PeerTable &table, const std::string &type) {
 } // namespace
 
 void addProducts(PeerTable &table) {
-    addOrders<float, 3, 4, 5, 6, 8, 16, 32>(table, "32f");
-    addOrders<double, 3, 4, 5, 6, 8, 16, 32>(table, "64f");
+    addOrders<float, 3, 4, 5, 6, 8, 9, 12, 16, 32>(table, "32f");
+    addOrders<double, 3, 4, 5, 6, 8, 9, 12, 16, 32>(table, "64f");
 }
 
 } // namespace lxpm::bench::eigen

@@ -60,8 +60,8 @@ extern "C" const lxpm::bench::PeerTable *LXPM_PEER_TABLE() {
     static const PeerTable all = [] {
         libxsmm_init();
         PeerTable table;
-        addOrders<float, 3, 4, 5, 6, 8, 16, 32>(table, "32f");
-        addOrders<double, 3, 4, 5, 6, 8, 16, 32>(table, "64f");
+        addOrders<float, 3, 4, 5, 6, 8, 9, 12, 16, 32>(table, "32f");
+        addOrders<double, 3, 4, 5, 6, 8, 9, 12, 16, 32>(table, "64f");
         return table;
     }();
     return &all;
