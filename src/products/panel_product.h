@@ -114,21 +114,15 @@ private:
     // Columns that touch, four elements of each at a time. Returns how many of the elements there were.
     template <int Registers>
     std::ptrdiff_t turnIntoPanel() {
-        const T *first = p.b.at(object, inner, column);
-        const std::ptrdiff_t columnStep = p.b.step[2];
         const std::ptrdiff_t whole = length / 4 * 4;
+        TouchingColumns<T, Registers> columns(p.b.at(object, inner, column), p.b.step[2], second);
         for (std::ptrdiff_t k = 0; k < whole; k += 4) {
+            const auto rows = columns.template next<4>();
 #pragma GCC unroll 2
-            for (std::ptrdiff_t r = 0; r < Registers; ++r) {
-                std::array<const T *, fullLanes<T>> from;
-#pragma GCC unroll 8
-                for (std::ptrdiff_t lane = 0; lane < lanes; ++lane) {
-                    from[lane] = shifted(first, (r * second + lane) * columnStep) + k;
-                }
-                const GroupColumns<T> rows = columnsOf<4, true>(from);
+            for (std::size_t r = 0; r < Registers; ++r) {
 #pragma GCC unroll 4
-                for (int i = 0; i < 4; ++i) {
-                    rows[i].store(copiedPanel + (k + i) * width + r * lanes);
+                for (std::ptrdiff_t i = 0; i < 4; ++i) {
+                    rows[r][i].store(copiedPanel + (k + i) * width + std::ptrdiff_t(r) * lanes);
                 }
             }
         }

@@ -79,6 +79,51 @@ template <int columns, bool>
     return group;
 }
 
+// Columns of one matrix whose elements touch, as many as the lanes of some registers: side by side, but for the last
+// register's, which start at column `last`. Four columns share a pointer: one for each of them would not stay in the
+// processor's registers.
+template <class T, std::size_t registers>
+class TouchingColumns {
+public:
+    [[gnu::always_inline]] TouchingColumns(const T *first, std::ptrdiff_t columnStep, std::ptrdiff_t last)
+        : step(columnStep), thrice(3 * columnStep) {
+        for (std::size_t r = 0; r < registers; ++r) {
+            const std::ptrdiff_t column = r + 1 < registers ? std::ptrdiff_t(r) * groupSize<T> : last;
+            for (std::size_t quad = 0; quad < quads; ++quad) {
+                pointers[r][quad] = shifted(first, (column + 4 * std::ptrdiff_t(quad)) * step);
+            }
+        }
+    }
+
+    // The next elements of each column, as rows of each register.
+    template <int elements>
+    [[gnu::always_inline]] std::array<GroupColumns<T>, registers> next() {
+        std::array<GroupColumns<T>, registers> rows;
+#pragma GCC unroll 2
+        for (std::size_t r = 0; r < registers; ++r) {
+            std::array<const T *, fullLanes<T>> from;
+#pragma GCC unroll 2
+            for (std::size_t quad = 0; quad < quads; ++quad) {
+                const T *&first = pointers[r][quad];
+                from[4 * quad] = first;
+                from[4 * quad + 1] = shifted(first, step);
+                from[4 * quad + 2] = shifted(first, 2 * step);
+                from[4 * quad + 3] = shifted(first, thrice);
+                first += elements;
+            }
+            rows[r] = columnsOf<elements, false>(from);
+        }
+        return rows;
+    }
+
+private:
+    static constexpr std::size_t quads = fullLanes<T> / 4;
+
+    std::ptrdiff_t step;
+    std::ptrdiff_t thrice;
+    std::array<std::array<const T *, quads>, registers> pointers;
+};
+
 template <class T, Reading reading, std::ptrdiff_t Step = 0>
 class GroupReader;
 

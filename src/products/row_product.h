@@ -44,53 +44,6 @@ public:
     }
 
 private:
-    // Columns whose elements touch, a register's lanes of them after the other. Four columns share a pointer: one for
-    // each of them would not stay in the processor's registers.
-    template <std::size_t registers>
-    class Columns {
-    public:
-        [[gnu::always_inline]] Columns(const T *first, std::ptrdiff_t columnStep, std::ptrdiff_t last)
-            : step(columnStep), thrice(3 * columnStep) {
-            for (std::size_t i = 0; i < quads; ++i) {
-                const bool isInLast = i + quads / registers >= quads;
-                const std::size_t fromLast = i + quads / registers - quads;
-                pointers[i] =
-                    shifted(first, (isInLast ? last + 4 * std::ptrdiff_t(fromLast) : 4 * std::ptrdiff_t(i)) * step);
-            }
-        }
-
-        // The next elements of each column, as rows.
-        template <int elements>
-        [[gnu::always_inline]] std::array<GroupColumns<T>, registers> next() {
-            std::array<GroupColumns<T>, registers> rows;
-#pragma GCC unroll 4
-            for (std::size_t r = 0; r < registers; ++r) {
-                std::array<const T *, fullLanes<T>> from;
-#pragma GCC unroll 4
-                for (std::size_t quad = 0; quad < fullLanes<T> / 4; ++quad) {
-                    const T *const first = pointers[r * (fullLanes<T> / 4) + quad];
-                    from[4 * quad] = first;
-                    from[4 * quad + 1] = shifted(first, step);
-                    from[4 * quad + 2] = shifted(first, 2 * step);
-                    from[4 * quad + 3] = shifted(first, thrice);
-                }
-                rows[r] = columnsOf<elements, false>(from);
-            }
-#pragma GCC unroll 4
-            for (std::size_t i = 0; i < quads; ++i) {
-                pointers[i] += elements;
-            }
-            return rows;
-        }
-
-    private:
-        static constexpr std::size_t quads = registers * fullLanes<T> / 4;
-
-        std::ptrdiff_t step;
-        std::ptrdiff_t thrice;
-        std::array<const T *, quads> pointers;
-    };
-
     struct Row {
         std::ptrdiff_t inner;
         const T *a;
@@ -152,7 +105,7 @@ private:
         // Four elements of each column at a time.
         template <std::size_t registers>
         [[gnu::always_inline]] void turned(std::array<L, registers> &sums, const T *first, std::ptrdiff_t last) const {
-            Columns<registers> columns(first, bStep, last);
+            TouchingColumns<T, registers> columns(first, bStep, last);
             const T *element = a;
             std::ptrdiff_t left = inner;
             for (; left >= 4; left -= 4) {
@@ -172,7 +125,7 @@ private:
         }
 
         template <int elements, std::size_t registers>
-        [[gnu::always_inline]] void addTurned(std::array<L, registers> &sums, Columns<registers> &columns,
+        [[gnu::always_inline]] void addTurned(std::array<L, registers> &sums, TouchingColumns<T, registers> &columns,
                                               const T *element) const {
             const auto rows = columns.template next<elements>();
 #pragma GCC unroll 4
