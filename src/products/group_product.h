@@ -17,13 +17,12 @@ namespace lxpm {
 template <class T>
 class GroupProduct {
 public:
-    // Where columns would fill no register, or not all of them, of a matrix that has to be turned for a single row.
+    // Where columns would fill no register, or a matrix would have to be turned for a single row.
     static bool isBetter(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         const bool fits = std::max({p.rows, p.inner, p.columns}) <= largestGroup &&
                           std::max({p.rows * p.inner, p.inner * p.columns, p.rows * p.columns}) <= largestGroup;
-        const bool isTurned = p.rows == 1 && !p.b.isSingle() && !p.b.rowsTouch();
-        const bool leavesGaps = p.columns < groupSize<T> || (isTurned && p.columns % groupSize<T> != 0);
-        return fits && leavesGaps && count >= groupSize<T>;
+        const bool isNarrow = p.columns < groupSize<T> || (p.rows == 1 && !p.b.isSingle() && !p.b.rowsTouch());
+        return fits && isNarrow && count >= groupSize<T>;
     }
 
     // All objects but the last ones that do not fill the lanes; returns their number.

@@ -147,7 +147,10 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         if constexpr (order != 0) {
             multiplySmall<T, order>(p, count);
         } else {
-            const std::ptrdiff_t done = GroupProduct<T>::isBetter(p, count) ? GroupProduct<T>::run(p, count) : 0;
+            // Columns that fill registers are turned faster one matrix after the other than in groups of matrices.
+            const bool fillsRegisters = RowProduct<T>::accepts(p, count) && p.columns % groupSize<T> == 0;
+            const bool goesByGroups = !fillsRegisters && GroupProduct<T>::isBetter(p, count);
+            const std::ptrdiff_t done = goesByGroups ? GroupProduct<T>::run(p, count) : 0;
             if (done == count) {
                 return lxpStatusOk;
             }
