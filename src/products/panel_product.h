@@ -60,7 +60,7 @@ private:
 
     explicit PanelProduct(const MatrixProduct<T> &product) : p(product) {}
 
-    // Columns of all results: as many as the registers have lanes, or fewer.
+    // Columns of all results: up to as many as the registers have lanes; with two registers more than one of them has.
     template <int Registers>
     void columns(std::ptrdiff_t first, std::ptrdiff_t number, std::ptrdiff_t count) {
         column = first;
@@ -259,13 +259,19 @@ private:
                                       std::ptrdiff_t row) const {
         const bool isDirect = p.dst.rowsTouch() && columnsUsed >= lanes;
         for (const auto &ofRow : sums) {
-            T copied[width] = {};
-            T *const place = isDirect ? p.dst.at(object, row, column) : copied;
-            for (std::size_t r = 0; r < Registers; ++r) {
-                ofRow[r].store(place + std::ptrdiff_t(r) * second);
-            }
-            for (std::ptrdiff_t j = 0; j < columnsUsed && !isDirect; ++j) {
-                *p.dst.at(object, row, column + j) = copied[j];
+            const auto storeTo = [&](T * place) __attribute__((always_inline)) {
+                for (std::size_t r = 0; r < Registers; ++r) {
+                    ofRow[r].store(place + std::ptrdiff_t(r) * second);
+                }
+            };
+            if (isDirect) {
+                storeTo(p.dst.at(object, row, column));
+            } else {
+                T copied[width] = {};
+                storeTo(copied);
+                for (std::ptrdiff_t j = 0; j < columnsUsed; ++j) {
+                    *p.dst.at(object, row, column + j) = copied[j];
+                }
             }
             ++row;
         }

@@ -11,6 +11,8 @@
 //   Same      a single vector that is used with every object of the array, as a dense copy (SingleVector)
 //   Apart     anything else: one by one
 //
+// The columns of one matrix are turned in the same way (TouchingColumns).
+//
 // Nothing behind the last element of an array is read.
 
 #include "runtime/addresses.h"
@@ -59,7 +61,7 @@ template <int columns, bool readsOn>
 // The same of four rows, two columns at a time.
 template <int columns, bool>
 [[gnu::always_inline]] inline GroupColumns<double> columnsOf(const std::array<const double *, 4> &row) {
-    GroupColumns<double> group;
+    GroupColumns<double> group = {};
     if constexpr (columns == 1) {
         group[0] = {_mm256_setr_pd(*row[0], *row[1], *row[2], *row[3])};
     } else {
@@ -88,7 +90,7 @@ public:
     [[gnu::always_inline]] TouchingColumns(const T *first, std::ptrdiff_t columnStep, std::ptrdiff_t last)
         : step(columnStep), thrice(3 * columnStep) {
         for (std::size_t r = 0; r < registers; ++r) {
-            const std::ptrdiff_t column = r + 1 < registers ? std::ptrdiff_t(r) * groupSize<T> : last;
+            const std::ptrdiff_t column = r + 1 < registers ? std::ptrdiff_t(r) * fullLanes<T> : last;
             for (std::size_t quad = 0; quad < quads; ++quad) {
                 pointers[r][quad] = shifted(first, (column + 4 * std::ptrdiff_t(quad)) * step);
             }

@@ -79,7 +79,11 @@ private:
         template <int registers, bool isTurned>
         [[gnu::always_inline]] void sum(std::ptrdiff_t column, std::ptrdiff_t last) const {
             std::array<L, registers> sums = {};
-            isTurned ? turned(sums, shifted(b, column * bStep), last) : asItStands(sums, b + column, last);
+            if constexpr (isTurned) {
+                turned(sums, shifted(b, column * bStep), last);
+            } else {
+                asItStands(sums, b + column, last);
+            }
 #pragma GCC unroll 8
             for (int r = 0; r < registers; ++r) {
                 const std::ptrdiff_t place = column + (r + 1 < registers ? r * lanes : last);

@@ -55,18 +55,25 @@ template <int Order, int Objects, class T>
 // Where the elements of a diagonal stand apart, a lane costs as much to fill as the sum that it would save. Short
 // diagonals are written out; of longer ones several are summed at a time, for none to wait for its last sum.
 template <int Order, class T>
-void tracesOneByOne(const Addresses<const T> &shared, T *dst, int order, int objects) {
+void tracesOneByOne(const Addresses<const T> &shared, T *dst, int anyOrder, std::ptrdiff_t objects) {
     const Addresses<const T> diagonal = shared; // a copy that no store below can reach
-    int object = 0;
+    const int order = Order != 0 ? Order : anyOrder;
+    std::ptrdiff_t object = 0;
     if (diagonal.pointers == nullptr) {
         const std::ptrdiff_t objectStep = diagonal.step[0];
         const std::ptrdiff_t elementStep = diagonal.step[2];
         const T *first = diagonal.at(0, 0, 0);
-        constexpr int atATime = Order != 0 ? 1 : 4;
-        for (; object + atATime <= objects; object += atATime) {
-            tracesOf<Order, atATime>(first, objectStep, elementStep, order, dst + object);
-            first = shifted(first, atATime * objectStep);
+        if constexpr (Order == 0) {
+            for (; object + 4 <= objects; object += 4) {
+                tracesOf<Order, 4>(first, objectStep, elementStep, order, dst + object);
+                first = shifted(first, 4 * objectStep);
+            }
         }
+        for (; object < objects; ++object) {
+            tracesOf<Order, 1>(first, objectStep, elementStep, order, dst + object);
+            first = shifted(first, objectStep);
+        }
+        return;
     }
     for (; object < objects; ++object) {
         T sum = 0;

@@ -46,7 +46,7 @@ const std::vector<Shape> flatProducts = {{1, 5, 1}, {5, 1, 5}, {1, 1, 7}, {7, 1,
                                          {3, 4, 5}, {5, 4, 3}, {2, 7, 6}, {3, 3, 4}, {4, 3, 3}, {3, 4, 3}, {6, 6, 5},
                                          {5, 6, 6}, {6, 5, 6}, {8, 7, 8}, {2, 2, 9}, {9, 2, 2}};
 
-// Blocks of four rows by two registers, stretches of the inner dimension, with every kind of remainder.
+// Blocks of four rows by one or two registers, stretches of the inner dimension, with every kind of remainder.
 const std::vector<Shape> aroundBlocks = {{4, 9, 16}, {5, 2, 17},  {6, 3, 15},   {7, 10, 8},   {8, 16, 24}, {3, 31, 9},
                                          {2, 70, 5}, {1, 130, 3}, {5, 129, 17}, {3, 130, 12}, {2, 129, 20}};
 
@@ -141,11 +141,12 @@ const SizeAxes productSizes = {
 };
 
 const SizeAxes matrixVectorSizes = {
-    .all = join({squares(1, 9),
-                 rowsAndColumns,
-                 rectangles,
-                 wideSquares,
-                 {{3, 70}, {5, 130}, {2, 300}, {70, 3}, {19, 6}, {61, 2}, {127, 5}}}),
+    .all =
+        join({squares(1, 9),
+              rowsAndColumns,
+              rectangles,
+              wideSquares,
+              {{3, 70}, {5, 130}, {2, 300}, {70, 3}, {19, 6}, {27, 3}, {44, 3}, {52, 3}, {61, 2}, {127, 5}, {9, 130}}}),
     .small = join({squares(1, 9), {{3, 4}, {4, 3}, {6, 5}}}),
     .tight = join({squares(1, 9),
                    rowsAndColumns,
