@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "case.h"
+#include "orders.h"
 
 #include <algorithm>
 #include <lxpm/eigen.h>
@@ -137,7 +138,7 @@ LxpStatus generalVectorsOfEach(const T *src, T *values, T *vectors, T *buffer, i
 
 template <class T>
 void appendType(std::vector<Case> &cases) {
-    for (const int n : {3, 4, 6, 8, 16}) {
+    for (const int n : eigenproblemOrders) {
         const std::string size = std::to_string(n) + "x" + std::to_string(n);
         append<T>(cases, "EigenValuesSym_ma", size, n, Values::Sorted, false, symmetricValues<T>);
         append<T>(cases, "EigenValuesVectorsSym_ma", size, n, Values::Sorted, true, symmetricVectors<T>);

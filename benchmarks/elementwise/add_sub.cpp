@@ -3,6 +3,7 @@
 
 #include "case.h"
 #include "operands.h"
+#include "orders.h"
 
 #include <lxpm/elementwise.h>
 
@@ -11,8 +12,6 @@ namespace lxpm::bench {
 namespace {
 
 // Orders 3 to 6 are those with kernels of their own; 8 stands for the general ones.
-constexpr int orders[] = {3, 4, 5, 6, 8};
-
 std::string sizeName(Kind kind, int n) {
     const std::string len = std::to_string(n);
     return kind == Kind::matrix ? len + "x" + len : len;
@@ -54,7 +53,7 @@ void appendDense(std::vector<Case> &cases, const std::string &code, const std::s
     const auto append = [&](const Setting &setting, int n) {
         cases.push_back(makeCase<First, Second, T, Form::dense>(setting, setting.name + "-" + code, name, function, n));
     };
-    for (const int n : orders) {
+    for (const int n : elementwiseOrders) {
         append(cacheSetting(), n);
     }
     for (const int n : {3, 4}) {

@@ -5,6 +5,7 @@
 
 #include "case.h"
 #include "operands.h"
+#include "orders.h"
 
 #include <lxpm/elementwise.h>
 
@@ -113,7 +114,7 @@ Case combinationCase(const Setting &setting, const std::string &group, const std
 
 // In cache for every order, and in memory for those that most data have.
 void appendBoth(std::vector<Case> &cases, const auto &makeCase) {
-    for (const int n : {3, 4, 5, 6, 8}) {
+    for (const int n : elementwiseOrders) {
         cases.push_back(makeCase(cacheSetting(), n));
     }
     for (const int n : {3, 4}) {

@@ -3,16 +3,13 @@
 
 #include "case.h"
 #include "operands.h"
+#include "orders.h"
 
 #include <lxpm/products.h>
 
 namespace lxpm::bench {
 
 namespace {
-
-// Orders 3 to 6 have unrolled kernels, 8 is the largest that does; 9 and 12, where the registers of a block do not fit,
-// and 16 and 32, where they do, go by blocks.
-constexpr int orders[] = {3, 4, 5, 6, 8, 9, 12, 16, 32};
 
 std::string square(int n) {
     return std::to_string(n) + "x" + std::to_string(n);
@@ -151,7 +148,7 @@ void appendSingle(std::vector<Case> &cases, const std::string &name, auto *funct
 void appendProducts(std::vector<Case> &cases) {
     using namespace codes;
 
-    for (const int n : orders) {
+    for (const int n : productOrders) {
         const Setting &cache = cacheSetting();
 #define PRODUCT(code, type, T, first, second)                                                                          \
     appendProduct<T, Form::dense, first, second>(cases, cache, #code, "Mul_" #code "_" #type, lxpmMul_##code##_##type, \

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "case.h"
+#include "orders.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -64,7 +65,7 @@ template <class T>
 void appendType(std::vector<Case> &cases) {
     constexpr int size = sizeof(T);
     const Setting &cache = cacheSetting();
-    for (const int n : {3, 4, 5, 6, 7, 8, 64, 1024}) {
+    for (const int n : vectorLengths) {
         const std::string len = std::to_string(n);
         append<T>(cases, cache, "vava", "DotProduct", len, n, {2 * n, 1}, Results::Rounded,
                   [](const T *a, const T *b, T *dst, int length, int count) {
@@ -92,7 +93,7 @@ void appendType(std::vector<Case> &cases) {
                   return exportOf<T>(lxpmCrossProduct_vav_32f, lxpmCrossProduct_vav_64f)(a, 3 * size, size, b, size,
                                                                                          dst, 3 * size, size, count);
               });
-    for (const int n : {3, 4, 5, 6, 7, 8, 9, 12, 16}) {
+    for (const int n : reductionOrders) {
         append<T>(cases, cache, "ma", "FrobNorm", square(n), n, {n * n, 1}, Results::Rounded,
                   [](const T *a, const T *, T *dst, int order, int count) {
                       return exportOf<T>(lxpmFrobNorm_ma_32f, lxpmFrobNorm_ma_64f)(

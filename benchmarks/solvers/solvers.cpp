@@ -4,10 +4,10 @@
 #include "solvers/systems.h"
 
 #include "case.h"
+#include "orders.h"
 
 #include <algorithm>
 #include <functional>
-#include <initializer_list>
 #include <lxpm/solvers.h>
 #include <memory>
 #include <utility>
@@ -151,7 +151,7 @@ void appendQR(std::vector<Case> &cases, int height, int width) {
 
 template <class T>
 void appendType(std::vector<Case> &cases) {
-    for (const int n : {3, 4, 5, 6, 8, 16}) {
+    for (const int n : solverOrders) {
         appendOrder<T>(cases, n);
         appendQR<T>(cases, n, n);
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "blocks.h"
+#include "orders.h"
 #include "peers/eigen/families.h"
 #include "peers/eigen/operands.h"
 
@@ -74,11 +75,7 @@ void addOrder(PeerTable &table, const std::string &type) {
 
 template <class T>
 void addEigenproblems(PeerTable &table, const std::string &type) {
-    addOrder<T, 3>(table, type);
-    addOrder<T, 4>(table, type);
-    addOrder<T, 6>(table, type);
-    addOrder<T, 8>(table, type);
-    addOrder<T, 16>(table, type);
+    forEach<eigenproblemOrders>([&](auto n) { addOrder<T, n>(table, type); });
     table.push_back({"EigenValuesSym_ma_" + type + "/3x3-direct", runSymmetric<T, 3, false, true>});
     table.push_back({"EigenValuesVectorsSym_ma_" + type + "/3x3-direct", runSymmetric<T, 3, true, true>});
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "blocks.h"
+#include "orders.h"
 #include "peers/eigen/families.h"
 #include "peers/eigen/operands.h"
 
@@ -73,11 +74,7 @@ void addOrder(PeerTable &table, const std::string &type) {
 
 template <class T>
 void addType(PeerTable &table, const std::string &type) {
-    addOrder<T, 3>(table, type);
-    addOrder<T, 4>(table, type);
-    addOrder<T, 5>(table, type);
-    addOrder<T, 6>(table, type);
-    addOrder<T, 8>(table, type);
+    forEach<elementwiseOrders>([&](auto n) { addOrder<T, n>(table, type); });
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "blocks.h"
+#include "orders.h"
 #include "peers/eigen/families.h"
 #include "peers/eigen/operands.h"
 
@@ -97,16 +98,13 @@ void addOrder(PeerTable &table, const std::string &type) {
     table.push_back({"Gaxpy_mvav" + size, runSum<T, n, Single<V>>});
 }
 
-template <class T, int... n>
-void addOrders(PeerTable &table, const std::string &type) {
-    (addOrder<T, n>(table, type), ...);
-}
-
 } // namespace
 
 void addProducts(PeerTable &table) {
-    addOrders<float, 3, 4, 5, 6, 8, 9, 12, 16, 32>(table, "32f");
-    addOrders<double, 3, 4, 5, 6, 8, 9, 12, 16, 32>(table, "64f");
+    forEach<productOrders>([&](auto n) {
+        addOrder<float, n>(table, "32f");
+        addOrder<double, n>(table, "64f");
+    });
 }
 
 } // namespace lxpm::bench::eigen

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "blocks.h"
+#include "orders.h"
 #include "peers/eigen/families.h"
 #include "peers/eigen/operands.h"
 
@@ -85,20 +86,10 @@ void addLarge(PeerTable &table, const std::string &type) {
     table.push_back({"Transpose_m" + size, [](const PeerOperands &operands) { runTranspose<M>(operands, n); }});
 }
 
-template <class T, int... n>
-void addLengths(PeerTable &table, const std::string &type) {
-    (addLength<T, n>(table, type), ...);
-}
-
-template <class T, int... n>
-void addOrders(PeerTable &table, const std::string &type) {
-    (addOrder<T, n>(table, type), ...);
-}
-
 template <class T>
 void addType(PeerTable &table, const std::string &type) {
-    addLengths<T, 3, 4, 5, 6, 7, 8, 64, 1024>(table, type);
-    addOrders<T, 3, 4, 5, 6, 7, 8, 9, 12, 16>(table, type);
+    forEach<vectorLengths>([&](auto n) { addLength<T, n>(table, type); });
+    forEach<reductionOrders>([&](auto n) { addOrder<T, n>(table, type); });
     addLarge<T, 1000>(table, type);
     addLarge<T, 2048>(table, type);
     using V = Vector<T, 3>;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "blocks.h"
+#include "orders.h"
 #include "peers/eigen/families.h"
 #include "peers/eigen/operands.h"
 #include "solvers/systems.h"
@@ -116,18 +117,13 @@ void addOrder(PeerTable &table, const std::string &type) {
     addQR<T, n, n>(table, type);
 }
 
-template <class T, int... n>
-void addOrders(PeerTable &table, const std::string &type) {
-    (addOrder<T, n>(table, type), ...);
-    addQR<T, 6, 4>(table, type);
-    addQR<T, 16, 8>(table, type);
-}
-
 } // namespace
 
 template <class T>
 void addSolvers(PeerTable &table, const std::string &type) {
-    addOrders<T, 3, 4, 5, 6, 8, 16>(table, type);
+    forEach<solverOrders>([&](auto n) { addOrder<T, n>(table, type); });
+    addQR<T, 6, 4>(table, type);
+    addQR<T, 16, 8>(table, type);
 }
 
 } // namespace lxpm::bench::eigen

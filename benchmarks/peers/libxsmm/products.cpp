@@ -5,6 +5,7 @@
 // the operands are exchanged.
 
 #include "blocks.h"
+#include "orders.h"
 #include "peers/peer.h"
 
 #include <libxsmm.h>
@@ -46,11 +47,6 @@ void addOrder(PeerTable &table, const std::string &type) {
     table.push_back({"Mul_mma" + size, run<T, n, 0, 1>});
 }
 
-template <class T, int... n>
-void addOrders(PeerTable &table, const std::string &type) {
-    (addOrder<T, n>(table, type), ...);
-}
-
 } // namespace
 
 } // namespace lxpm::bench
@@ -60,8 +56,10 @@ extern "C" const lxpm::bench::PeerTable *LXPM_PEER_TABLE() {
     static const PeerTable all = [] {
         libxsmm_init();
         PeerTable table;
-        addOrders<float, 3, 4, 5, 6, 8, 9, 12, 16, 32>(table, "32f");
-        addOrders<double, 3, 4, 5, 6, 8, 9, 12, 16, 32>(table, "64f");
+        forEach<productOrders>([&](auto n) {
+            addOrder<float, n>(table, "32f");
+            addOrder<double, n>(table, "64f");
+        });
         return table;
     }();
     return &all;

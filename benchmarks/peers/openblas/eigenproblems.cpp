@@ -3,6 +3,7 @@
 
 // OpenBLAS' eigensolvers, through LAPACKE: one call for each object, with scratch of the caller's.
 
+#include "orders.h"
 #include "peers/openblas/families.h"
 
 #include <lapacke.h>
@@ -73,16 +74,13 @@ void addOrder(PeerTable &table, const std::string &type) {
     table.push_back({"EigenValuesVectorsRight_m" + size, runGeneral<T, n, true>});
 }
 
-template <class T, int... n>
-void addType(PeerTable &table, const std::string &type) {
-    (addOrder<T, n>(table, type), ...);
-}
-
 } // namespace
 
 void addEigenproblems(PeerTable &table) {
-    addType<float, 3, 4, 6, 8, 16>(table, "32f");
-    addType<double, 3, 4, 6, 8, 16>(table, "64f");
+    forEach<eigenproblemOrders>([&](auto n) {
+        addOrder<float, n>(table, "32f");
+        addOrder<double, n>(table, "64f");
+    });
 }
 
 } // namespace lxpm::bench::openblas

@@ -4,6 +4,7 @@
 // OpenBLAS, one call for each object, or one for all vectors of an array.
 
 #include "blocks.h"
+#include "orders.h"
 #include "peers/openblas/families.h"
 
 #include <cblas.h>
@@ -56,16 +57,13 @@ void addOrder(PeerTable &table, const std::string &type) {
     table.push_back({"Mul_mva" + size, runVectors<T, n>});
 }
 
-template <class T, int... n>
-void addOrders(PeerTable &table, const std::string &type) {
-    (addOrder<T, n>(table, type), ...);
-}
-
 } // namespace
 
 void addProducts(PeerTable &table) {
-    addOrders<float, 3, 4, 5, 6, 8, 9, 12, 16, 32>(table, "32f");
-    addOrders<double, 3, 4, 5, 6, 8, 9, 12, 16, 32>(table, "64f");
+    forEach<productOrders>([&](auto n) {
+        addOrder<float, n>(table, "32f");
+        addOrder<double, n>(table, "64f");
+    });
 }
 
 } // namespace lxpm::bench::openblas

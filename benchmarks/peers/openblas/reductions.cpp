@@ -4,6 +4,7 @@
 // OpenBLAS' sums over vectors and its transposed copies, one call for each object.
 
 #include "blocks.h"
+#include "orders.h"
 #include "peers/openblas/families.h"
 
 #include <cblas.h>
@@ -67,28 +68,25 @@ void runTransposes(const PeerOperands &operands) {
     });
 }
 
-template <class T, int... n>
+template <class T, int length>
 void addVectors(PeerTable &table, const std::string &type) {
-    const auto add = [&]<int length>() {
-        const std::string size = "_" + type + "/" + std::to_string(length);
-        table.push_back({"DotProduct_vava" + size, runDots<T, length, 1>});
-        table.push_back({"DotProduct_vav" + size, runDots<T, length, 0>});
-        table.push_back({"L2Norm_va" + size, runNorms<T, length>});
-    };
-    (add.template operator()<n>(), ...);
+    const std::string size = "_" + type + "/" + std::to_string(length);
+    table.push_back({"DotProduct_vava" + size, runDots<T, length, 1>});
+    table.push_back({"DotProduct_vav" + size, runDots<T, length, 0>});
+    table.push_back({"L2Norm_va" + size, runNorms<T, length>});
 }
 
-template <class T, int... n>
+template <class T, int n>
 void addMatrices(PeerTable &table, const std::string &name, const std::string &type) {
-    (table.push_back({name + "_" + type + "/" + std::to_string(n) + "x" + std::to_string(n), runTransposes<T, n>}),
-     ...);
+    table.push_back({name + "_" + type + "/" + std::to_string(n) + "x" + std::to_string(n), runTransposes<T, n>});
 }
 
 template <class T>
 void addType(PeerTable &table, const std::string &type) {
-    addVectors<T, 3, 4, 5, 6, 7, 8, 64, 1024>(table, type);
-    addMatrices<T, 3, 4, 5, 6, 7, 8, 9, 12, 16>(table, "Transpose_ma", type);
-    addMatrices<T, 1000, 2048>(table, "Transpose_m", type);
+    forEach<vectorLengths>([&](auto n) { addVectors<T, n>(table, type); });
+    forEach<reductionOrders>([&](auto n) { addMatrices<T, n>(table, "Transpose_ma", type); });
+    addMatrices<T, 1000>(table, "Transpose_m", type);
+    addMatrices<T, 2048>(table, "Transpose_m", type);
 }
 
 } // namespace
