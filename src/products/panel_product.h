@@ -29,7 +29,7 @@ class PanelProduct {
 
     using L = Lanes<T, fullLanes<T>>;
 
-    template <int Rows, int Registers>
+    template <std::size_t Rows, std::size_t Registers>
     using Block = std::array<std::array<L, Registers>, Rows>;
 
     static constexpr std::ptrdiff_t bytes(std::ptrdiff_t elements) {
@@ -66,9 +66,8 @@ private:
         column = first;
         columnsUsed = number;
         second = Registers == 2 ? number - lanes : 0;
-        const bool isFull = columnsUsed >= lanes;
-        const bool copies = !p.b.rowsTouch() || !isFull;
-        const bool isPlain = p.inner <= depth && isFull && p.a.movesByBytes() && p.dst.rowsTouch() && !p.addend;
+        const bool copies = !holdsRegisters(p.b);
+        const bool isPlain = p.inner <= depth && p.a.movesByBytes() && holdsRegisters(p.dst) && !p.addend;
         for (inner = 0; inner < p.inner; inner += depth) {
             length = std::min(depth, p.inner - inner);
             for (object = 0; object < count; ++object) {
@@ -86,6 +85,12 @@ private:
         }
     }
 
+    // Whether the block's elements of a row can be loaded and stored as registers.
+    template <class Element>
+    bool holdsRegisters(const Addresses<Element> &operand) const {
+        return operand.rowsTouch() && columnsUsed >= lanes;
+    }
+
     // The column of a lane. The lanes behind the last column repeat it, so that they can raise no flag of their own.
     std::ptrdiff_t columnOf(std::ptrdiff_t lane) const {
         return column + (lane < lanes ? std::min(lane, columnsUsed - 1) : second + lane - lanes);
@@ -94,7 +99,7 @@ private:
     template <int Registers>
     void copyPanel() {
         panel = {copiedPanel, length, bytes(width), lanes};
-        const bool isTurned = columnsUsed >= lanes && p.b.transposed().rowsTouch() && p.b.movesByBytes();
+        const bool isTurned = holdsRegisters(p.b.transposed()) && p.b.movesByBytes();
         const std::ptrdiff_t turned = isTurned ? turnIntoPanel<Registers>() : 0;
         for (std::ptrdiff_t lane = 0; lane < Registers * lanes; ++lane) {
             if (p.b.movesByBytes()) {
@@ -210,9 +215,9 @@ private:
 
     // A function of what it is given alone: members would be read again after everything that is stored.
     template <std::size_t Rows, std::size_t Registers>
-    [[gnu::always_inline]] static void sum(std::array<std::array<L, Registers>, Rows> &sums, const T *a,
-                                           std::ptrdiff_t aRow, std::ptrdiff_t aElement, Panel b) {
-        auto local = sums;
+    [[gnu::always_inline]] static void sum(Block<Rows, Registers> &sums, const T *a, std::ptrdiff_t aRow,
+                                           std::ptrdiff_t aElement, Panel b) {
+        auto local = sums; // GCC does better by it
         for (; b.rows > 0; --b.rows) {
             std::array<L, Registers> columns;
 #pragma GCC unroll 2
@@ -241,7 +246,7 @@ private:
         for (int i = 0; i < Rows; ++i) {
             T copied[width];
             const T *place = copied;
-            if (operand.rowsTouch() && columnsUsed >= lanes) {
+            if (holdsRegisters(operand)) {
                 place = operand.at(object, row + i, column);
             } else {
                 for (std::ptrdiff_t j = 0; j < std::max(lanes, columnsUsed); ++j) {
@@ -255,9 +260,8 @@ private:
     }
 
     template <std::size_t Rows, std::size_t Registers>
-    [[gnu::always_inline]] void store(const std::array<std::array<L, Registers>, Rows> &sums,
-                                      std::ptrdiff_t row) const {
-        const bool isDirect = p.dst.rowsTouch() && columnsUsed >= lanes;
+    [[gnu::always_inline]] void store(const Block<Rows, Registers> &sums, std::ptrdiff_t row) const {
+        const bool isDirect = holdsRegisters(p.dst);
         for (const auto &ofRow : sums) {
             const auto storeTo = [&](T * place) __attribute__((always_inline)) {
                 for (std::size_t r = 0; r < Registers; ++r) {

@@ -147,18 +147,19 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         if constexpr (order != 0) {
             multiplySmall<T, order>(p, count);
         } else {
-            // Columns that fill registers are turned faster one matrix after the other than in groups of matrices.
-            const bool fillsRegisters = RowProduct<T>::accepts(p, count) && p.columns % groupSize<T> == 0;
+            // Long columns that fill registers are faster one matrix after the other than in groups of matrices.
+            constexpr std::ptrdiff_t leastInner = 8; // measured in both types
+            const bool goesByRows = RowProduct<T>::accepts(p, count);
+            const bool fillsRegisters = goesByRows && p.columns % groupSize<T> == 0 && p.inner >= leastInner;
             const bool goesByGroups = !fillsRegisters && GroupProduct<T>::isBetter(p, count);
             const std::ptrdiff_t done = goesByGroups ? GroupProduct<T>::run(p, count) : 0;
             if (done == count) {
                 return lxpStatusOk;
             }
-            const MatrixProduct<T> rest = p.from(done);
-            if (RowProduct<T>::accepts(rest, count - done)) {
-                RowProduct<T>::run(rest, count - done);
+            if (goesByRows) {
+                RowProduct<T>::run(p.from(done), count - done);
             } else {
-                multiplyByPanels(rest, count - done);
+                multiplyByPanels(p.from(done), count - done);
             }
         }
         return lxpStatusOk;

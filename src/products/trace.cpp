@@ -34,12 +34,9 @@ Addresses<const T> diagonalOf(Addresses<const T> matrix) {
 }
 
 // The traces of some objects, one beside the other, from addresses that are bytes apart.
-//
-// Order: of the matrices where it is known beforehand, else 0.
-template <int Order, int Objects, class T>
+template <int Objects, class T>
 [[gnu::always_inline]] inline void tracesOf(const T *first, std::ptrdiff_t objectStep, std::ptrdiff_t elementStep,
-                                            int anyOrder, T *dst) {
-    const int order = Order != 0 ? Order : anyOrder;
+                                            int order, T *dst) {
     T sums[Objects] = {};
 #pragma GCC unroll 6
     for (int i = 0; i < order; ++i) {
@@ -54,6 +51,8 @@ template <int Order, int Objects, class T>
 
 // Where the elements of a diagonal stand apart, a lane costs as much to fill as the sum that it would save. Short
 // diagonals are written out; of longer ones several are summed at a time, for none to wait for its last sum.
+//
+// Order: of the matrices where it is known beforehand, else 0.
 template <int Order, class T>
 void tracesOneByOne(const Addresses<const T> &shared, T *dst, int anyOrder, std::ptrdiff_t objects) {
     const Addresses<const T> diagonal = shared; // a copy that no store below can reach
@@ -65,12 +64,12 @@ void tracesOneByOne(const Addresses<const T> &shared, T *dst, int anyOrder, std:
         const T *first = diagonal.at(0, 0, 0);
         if constexpr (Order == 0) {
             for (; object + 4 <= objects; object += 4) {
-                tracesOf<Order, 4>(first, objectStep, elementStep, order, dst + object);
+                tracesOf<4>(first, objectStep, elementStep, order, dst + object);
                 first = shifted(first, 4 * objectStep);
             }
         }
         for (; object < objects; ++object) {
-            tracesOf<Order, 1>(first, objectStep, elementStep, order, dst + object);
+            tracesOf<1>(first, objectStep, elementStep, order, dst + object);
             first = shifted(first, objectStep);
         }
         return;

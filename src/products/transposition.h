@@ -135,13 +135,7 @@ private:
     }
 
     [[gnu::always_inline]] static void block(const Pair &pair, std::ptrdiff_t row, std::ptrdiff_t column) {
-        const T *const first = pair.from(row, column);
-        std::array<const T *, rows> from;
-#pragma GCC unroll 8
-        for (int i = 0; i < rows; ++i) {
-            from[i] = shifted(first, i * pair.srcStep);
-        }
-        const GroupColumns<T> columns = columnsOf<4, true>(from);
+        const auto [columns] = TouchingColumns<T, 1>(pair.from(row, column), pair.srcStep, 0).template next<4>();
         T *const to = pair.to(column, row);
 #pragma GCC unroll 4
         for (int i = 0; i < 4; ++i) {
