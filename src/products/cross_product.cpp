@@ -80,12 +80,12 @@ inline std::array<Lanes<double, 4>, 4> vectorsOf(const std::array<Group<double>,
 
 enum class Writing { Dense, Rows, Objects };
 
-// Dense vectors are written in ascending order with four elements each, the fourth of which the next one replaces; only
-// the last of a group ends where it ends.
 template <class T, Writing writing>
 [[gnu::always_inline]] inline void writeGroup(const Addresses<T> &dst, std::ptrdiff_t object,
-                                              const std::array<Group<T>, 3> &columns) {
-    if constexpr (writing == Writing::Objects) {
+                                              const Triples<T> &columns) {
+    if constexpr (writing == Writing::Dense) {
+        writeTriples(dst.at(object, 0, 0), columns);
+    } else if constexpr (writing == Writing::Objects) {
 #pragma GCC unroll 3
         for (int i = 0; i < length; ++i) {
             columns[i].store(dst.at(object, 0, i));
@@ -94,28 +94,28 @@ template <class T, Writing writing>
         const auto vectors = vectorsOf(columns);
 #pragma GCC unroll 8
         for (int i = 0; i < groupSize<T>; ++i) {
-            if (writing == Writing::Dense && i + 1 < groupSize<T>) {
-                vectors[i].store(dst.at(object, 0, 0) + i * length);
-            } else {
-                storeFirst<length>(dst.at(object + i, 0, 0), vectors[i]);
-            }
+            storeFirst<length>(dst.at(object + i, 0, 0), vectors[i]);
         }
     }
 }
 
-// All whole groups. Returns how many objects they have.
-template <class T, Reading first, Reading second, Writing writing>
+// Bytes from vector to vector where they are known beforehand, else 0.
+template <class T, Reading reading, bool isDense>
+constexpr std::ptrdiff_t stepOf = (isDense && reading == Reading::Rows) ? std::ptrdiff_t(sizeof(T)) * length : 0;
+
+// All whole groups. Returns how many objects they have. Dense: sources that are read as rows follow one another.
+template <class T, bool dense, Reading first, Reading second, Writing writing>
 std::ptrdiff_t crossGroups(const CrossOperands<T> &shared, std::ptrdiff_t objects) {
     const CrossOperands<T> operands = shared;
     const auto group = [&]<bool readsOn>(std::ptrdiff_t object, std::bool_constant<readsOn>)
         __attribute__((always_inline)) {
-        const GroupReader<T, first> a(operands.first, object);
-        const GroupReader<T, second> b(operands.second, object);
+        const GroupReader<T, first, stepOf<T, first, dense>> a(operands.first, object);
+        const GroupReader<T, second, stepOf<T, second, dense>> b(operands.second, object);
         writeGroup<T, writing>(operands.dst, object,
                                crossed(a.template read<length, readsOn>(0, 0), b.template read<length, readsOn>(0, 0)));
     };
     std::ptrdiff_t object = 0;
-    if (operands.first.pointerStep[0] == 0 && operands.second.pointerStep[0] == 0) {
+    if (!dense && operands.first.pointerStep[0] == 0 && operands.second.pointerStep[0] == 0) {
         for (; object + groupSize<T> < objects; object += groupSize<T>) {
             group(object, std::true_type());
         }
@@ -130,11 +130,17 @@ template <class T>
 using CrossKernel = std::ptrdiff_t (*)(const CrossOperands<T> &, std::ptrdiff_t objects);
 
 // The kernel for groups of vectors that are read like that, or the single one that every vector of an array meets.
-template <class T, Reading reading, Writing writing>
+template <class T, Reading reading, Writing writing, bool dense = false>
 CrossKernel<T> chooseSingle(Reading first, Reading second) {
-    return first == Reading::Same    ? crossGroups<T, Reading::Same, reading, writing>
-           : second == Reading::Same ? crossGroups<T, reading, Reading::Same, writing>
-                                     : crossGroups<T, reading, reading, writing>;
+    return first == Reading::Same    ? crossGroups<T, dense, Reading::Same, reading, writing>
+           : second == Reading::Same ? crossGroups<T, dense, reading, Reading::Same, writing>
+                                     : crossGroups<T, dense, reading, reading, writing>;
+}
+
+// Whether vectors whose elements touch follow one another.
+template <class Element>
+bool isDense(const Addresses<Element> &vectors) {
+    return vectors.step[0] == length * static_cast<std::ptrdiff_t>(sizeof(Element)) && vectors.pointerStep[0] == 0;
 }
 
 // Null where vectors go one by one.
@@ -147,10 +153,12 @@ CrossKernel<T> chooseGroups(const CrossOperands<T> &operands) {
         return (first == reading || first == Reading::Same) && (second == reading || second == Reading::Same);
     };
     if (dst.step[2] == sizeof(T) && dst.pointerStep[2] == 0) {
-        const bool isDense = dst.step[0] == length * sizeof(T) && dst.pointerStep[0] == 0;
         if (bothAre(Reading::Rows)) {
-            return isDense ? chooseSingle<T, Reading::Rows, Writing::Dense>(first, second)
-                           : chooseSingle<T, Reading::Rows, Writing::Rows>(first, second);
+            const bool readsDense = (first == Reading::Same || isDense(operands.first)) &&
+                                    (second == Reading::Same || isDense(operands.second));
+            return !isDense(dst) ? chooseSingle<T, Reading::Rows, Writing::Rows>(first, second)
+                   : readsDense  ? chooseSingle<T, Reading::Rows, Writing::Dense, true>(first, second)
+                                 : chooseSingle<T, Reading::Rows, Writing::Dense>(first, second);
         }
         if (bothAre(Reading::PointedRows)) {
             return chooseSingle<T, Reading::PointedRows, Writing::Rows>(first, second);

@@ -17,6 +17,7 @@
 
 #include "runtime/addresses.h"
 #include "runtime/lanes.h"
+#include "runtime/vector_groups.h"
 
 #include <array>
 #include <cstddef>
@@ -42,39 +43,60 @@ inline Reading readingOf(const Addresses<const T> &source) {
 template <class T>
 using GroupColumns = std::array<Group<T>, 4>;
 
-// The first `columns` elements of eight rows. ReadsOn: there are four elements that may be read.
+// The first `columns` elements of eight rows, four of which stand in a half. ReadsOn: there are four elements that may
+// be read.
 template <int columns, bool readsOn>
-[[gnu::always_inline]] inline GroupColumns<float> columnsOf(const std::array<const float *, 8> &row) {
-    GroupColumns<float> group;
+[[gnu::always_inline]] inline GroupColumns<float> loadRows(const std::array<const float *, 8> &row) {
+    GroupColumns<float> rows;
 #pragma GCC unroll 4
     for (int i = 0; i < 4; ++i) {
         if constexpr (columns == 4 || readsOn) {
-            group[i] = loadHalves(row[i], row[i + 4]);
+            rows[i] = loadHalves(row[i], row[i + 4]);
         } else {
-            group[i] = joined(loadFirst<columns>(row[i]), loadFirst<columns>(row[i + 4]));
+            rows[i] = joined(loadFirst<columns>(row[i]), loadFirst<columns>(row[i + 4]));
         }
     }
+    return rows;
+}
+
+// The same of four rows, each in a register of its own, or two elements of two rows in each.
+template <int columns, bool>
+[[gnu::always_inline]] inline GroupColumns<double> loadRows(const std::array<const double *, 4> &row) {
+    GroupColumns<double> rows = {};
+    if constexpr (columns == 1) {
+        rows[0] = {_mm256_setr_pd(*row[0], *row[1], *row[2], *row[3])};
+    } else if constexpr (columns == 4) {
+#pragma GCC unroll 4
+        for (int i = 0; i < 4; ++i) {
+            rows[i] = Group<double>::load(row[i]);
+        }
+    } else {
+        // The second pair of three columns starts with the second column.
+        rows[0] = loadHalves(row[0], row[2]);
+        rows[1] = loadHalves(row[1], row[3]);
+        if constexpr (columns > 2) {
+            rows[2] = loadHalves(row[0] + columns - 2, row[2] + columns - 2);
+            rows[3] = loadHalves(row[1] + columns - 2, row[3] + columns - 2);
+        }
+    }
+    return rows;
+}
+
+// Columns from what loadRows has loaded.
+template <int columns>
+[[gnu::always_inline]] inline GroupColumns<float> turned(GroupColumns<float> group) {
     transposeHalves(group);
     return group;
 }
 
-// The same of four rows, two columns at a time.
-template <int columns, bool>
-[[gnu::always_inline]] inline GroupColumns<double> columnsOf(const std::array<const double *, 4> &row) {
-    GroupColumns<double> group = {};
-    if constexpr (columns == 1) {
-        group[0] = {_mm256_setr_pd(*row[0], *row[1], *row[2], *row[3])};
-    } else {
-        // The second pair of three columns starts with the second column.
-        group[0] = loadHalves(row[0], row[2]);
-        group[1] = loadHalves(row[1], row[3]);
+template <int columns>
+[[gnu::always_inline]] inline GroupColumns<double> turned(GroupColumns<double> group) {
+    if constexpr (columns == 4) {
+        transpose(group);
+    } else if constexpr (columns > 1) {
         transposeHalves(group[0], group[1]);
-        if constexpr (columns > 2) {
-            group[2] = loadHalves(row[0] + columns - 2, row[2] + columns - 2);
-            group[3] = loadHalves(row[1] + columns - 2, row[3] + columns - 2);
-            transposeHalves(group[2], group[3]);
-        }
         if constexpr (columns == 3) {
+            transposeHalves(group[2], group[3]);
             group[2] = group[3];
         }
     }
@@ -113,7 +135,7 @@ public:
                 from[4 * quad + 3] = shifted(first, thrice);
                 first += elements;
             }
-            rows[r] = columnsOf<elements, false>(from);
+            rows[r] = turned<elements>(loadRows<elements, false>(from));
         }
         return rows;
     }
@@ -137,16 +159,41 @@ public:
         : start(shifted(source.base, source.offset + first * source.step[0])), step(Step != 0 ? Step : source.step[0]),
           rowStep(source.step[1]) {}
 
+    // Vectors that follow one another are loaded together, whatever rows they stand in then.
+    template <int columns>
+    static constexpr bool isWhole = columns == 3 && Step == 3 * sizeof(T);
+
     template <int columns, bool readsOn = false>
     [[gnu::always_inline]] GroupColumns<T> read(std::ptrdiff_t row, std::ptrdiff_t column) const {
-        return objects<columns, readsOn>(shifted(start, row * rowStep) + column,
-                                         std::make_integer_sequence<int, groupSize<T>>());
+        return turn<columns>(load<columns, readsOn>(row, column));
+    }
+
+    // As the elements stand in memory, and what becomes of that.
+    template <int columns, bool readsOn = false>
+    [[gnu::always_inline]] GroupColumns<T> load(std::ptrdiff_t row, std::ptrdiff_t column) const {
+        if constexpr (isWhole<columns>) {
+            const auto [first, second, third] = loadTriples(start); // there is one row
+            return {first, second, third};
+        } else {
+            return objects<columns, readsOn>(shifted(start, row * rowStep) + column,
+                                             std::make_integer_sequence<int, groupSize<T>>());
+        }
+    }
+
+    template <int columns>
+    [[gnu::always_inline]] static GroupColumns<T> turn(const GroupColumns<T> &loaded) {
+        if constexpr (isWhole<columns>) {
+            const auto [x, y, z] = turned(Triples<T>{loaded[0], loaded[1], loaded[2]});
+            return {x, y, z};
+        } else {
+            return turned<columns>(loaded);
+        }
     }
 
 private:
     template <int columns, bool readsOn, int... object>
     [[gnu::always_inline]] GroupColumns<T> objects(const T *first, std::integer_sequence<int, object...>) const {
-        return columnsOf<columns, readsOn>({shifted(first, object * step)...});
+        return loadRows<columns, readsOn>({shifted(first, object * step)...});
     }
 
     const T *start;
@@ -160,16 +207,29 @@ public:
     GroupReader(const Addresses<const T> &source, std::ptrdiff_t first)
         : start(source.pointers + first), offset(source.offset), rowStep(source.step[1]) {}
 
+    template <int>
+    static constexpr bool isWhole = false;
+
     template <int columns, bool = false>
     [[gnu::always_inline]] GroupColumns<T> read(std::ptrdiff_t row, std::ptrdiff_t column) const {
+        return turn<columns>(load<columns>(row, column));
+    }
+
+    template <int columns, bool = false>
+    [[gnu::always_inline]] GroupColumns<T> load(std::ptrdiff_t row, std::ptrdiff_t column) const {
         return objects<columns>(offset + row * rowStep + column * static_cast<std::ptrdiff_t>(sizeof(T)),
                                 std::make_integer_sequence<int, groupSize<T>>());
+    }
+
+    template <int columns>
+    [[gnu::always_inline]] static GroupColumns<T> turn(const GroupColumns<T> &loaded) {
+        return turned<columns>(loaded);
     }
 
 private:
     template <int columns, int... object>
     [[gnu::always_inline]] GroupColumns<T> objects(std::ptrdiff_t bytes, std::integer_sequence<int, object...>) const {
-        return columnsOf<columns, false>({shifted(start[object], bytes)...});
+        return loadRows<columns, false>({shifted(start[object], bytes)...});
     }
 
     const T *const *start;
@@ -207,10 +267,21 @@ public:
         return splats(first + column, std::make_integer_sequence<int, columns>());
     }
 
+    // As the rows of objects that this vector is multiplied with are loaded.
+    template <int columns, bool readsOn = false>
+    [[gnu::always_inline]] GroupColumns<T> load(std::ptrdiff_t, std::ptrdiff_t column) const {
+        return objects<columns>(first + column, std::make_integer_sequence<int, groupSize<T>>());
+    }
+
 private:
     template <int... column>
     [[gnu::always_inline]] static GroupColumns<T> splats(const T *from, std::integer_sequence<int, column...>) {
         return {broadcast(from + column)...};
+    }
+
+    template <int columns, int... object>
+    [[gnu::always_inline]] static GroupColumns<T> objects(const T *from, std::integer_sequence<int, object...>) {
+        return loadRows<columns, false>({((void)object, from)...});
     }
 
     const T *first;

@@ -19,6 +19,7 @@
 #include <array>
 #include <cstddef>
 #include <tuple>
+#include <type_traits>
 #include <utility>
 
 namespace lxpm {
@@ -112,9 +113,15 @@ private:
     // Short rows whose lengths the compiler knows: they are written out.
     using Lengths = std::integer_sequence<int, 8, 12, 16, 32, 64>;
 
+    // A matrix that is written out as a whole; of larger ones that takes longer.
+    static constexpr int square = 8;
+
     template <Walking walking>
     static Split chooseRows(int rows, int columns) {
         if constexpr (sources == 1) {
+            if (rows == square && columns == square) {
+                return splitWalking<walking, square, square>;
+            }
             if (rows > 1) {
                 return chooseColumns<walking, 0>(columns, Lengths());
             }
@@ -132,16 +139,18 @@ private:
     // Rows, columns: their numbers where they are known beforehand, else 0.
     template <Walking walking, int Rows, int Columns>
     static void splitWalking(const Operands &operands, int rows, int columns, int objects) {
-        splitObjects<walking>(operands, Rows != 0 ? Rows : rows, Columns != 0 ? Columns : columns, objects, Index());
+        splitObjects<walking, Rows == square>(operands, Rows != 0 ? Rows : rows, Columns != 0 ? Columns : columns,
+                                              objects, Index());
     }
 
-    template <Walking walking, std::size_t... s>
+    template <Walking walking, bool isSquare, std::size_t... s>
     [[gnu::always_inline]] static void splitObjects(const Operands &shared, int rows, int columns, int objects,
                                                     std::index_sequence<s...>) {
         const Operands operands = shared; // a copy that no store below can reach
         std::tuple<WalkOf<walking, s>...> walks(operands.src[s]...);
         const auto next = [&]() __attribute__((always_inline)) {
-            const Group<T> sum = splitSum(rows, columns, {operands.src[s].step[1]...}, std::get<s>(walks).object()...);
+            const Group<T> sum =
+                splitSum<isSquare>(rows, columns, {operands.src[s].step[1]...}, std::get<s>(walks).object()...);
             (std::get<s>(walks).next(), ...);
             return sum;
         };
@@ -160,19 +169,29 @@ private:
     }
 
     // Of one object, whose rows start at src.
-    template <class... Pointers>
+    template <bool isSquare, class... Pointers>
     [[gnu::always_inline]] static Group<T>
     splitSum(int rows, std::ptrdiff_t columns, std::array<std::ptrdiff_t, sources> rowStep, const Pointers *...src) {
         std::array<Group<T>, 4> partial = {Group<T>::splat(0), Group<T>::splat(0), Group<T>::splat(0),
                                            Group<T>::splat(0)};
-#pragma GCC unroll 2
-        for (int row = 0; row < rows; ++row) {
+        const auto addNext = [&]() __attribute__((always_inline)) {
             addRow(partial, columns, src...);
             // So that short rows too keep all registers busy.
             std::swap(partial[0], partial[2]);
             std::swap(partial[1], partial[3]);
             std::size_t source = 0;
             ((src = shifted(src, rowStep[source++])), ...);
+        };
+        if constexpr (isSquare) {
+#pragma GCC unroll 8
+            for (int row = 0; row < square; ++row) {
+                addNext();
+            }
+        } else {
+#pragma GCC unroll 2
+            for (int row = 0; row < rows; ++row) {
+                addNext();
+            }
         }
         return (partial[0] + partial[2]) + (partial[1] + partial[3]);
     }
@@ -271,47 +290,35 @@ private:
 
     // Vectors one behind the other, of a length with a kernel of its own.
     static bool isDense(const Operands &operands, int rows, int columns, bool lastIsSame) {
-        bool dense = rows == 1 && columns >= 3 && columns <= longestUnrolled;
+        bool dense = rows == 1 && columns >= 3;
         for (std::size_t source = 0; source < sources - lastIsSame; ++source) {
             dense &= operands.src[source].step[0] == columns * static_cast<std::ptrdiff_t>(sizeof(T));
         }
         return dense;
     }
 
+    // Rows of any operand; and objects one behind the other, among them matrices of orders 3 to 5.
+    using Short = std::integer_sequence<int, 1, 2, 3, 4>;
+    using Dense = std::integer_sequence<int, 3, 4, 5, 6, 7, 8, 9, 16, 25>;
+
     template <Reading first, Reading last, bool dense>
     static Groups chooseLength(int columns) {
-        switch (columns) {
-        case 1:
-            return groups<first, last, 1, false>;
-        case 2:
-            return groups<first, last, 2, false>;
-        case 3:
-            return groups<first, last, 3, dense>;
-        case 4:
-            return groups<first, last, 4, dense>;
-        case 5:
-            return groups < first, last, dense ? 5 : 0, dense > ;
-        case 6:
-            return groups < first, last, dense ? 6 : 0, dense > ;
-        case 7:
-            return groups < first, last, dense ? 7 : 0, dense > ;
-        case 8:
-            return groups < first, last, dense ? 8 : 0, dense > ;
-        case 9:
-            return groups < first, last, dense ? 9 : 0, dense > ;
-        default:
-            return groups<first, last, 0, false>;
-        }
+        return chooseLength<first, last, dense>(columns, std::conditional_t<dense, Dense, Short>());
     }
 
-    static constexpr int longestUnrolled = 9; // a matrix of order 3
+    template <Reading first, Reading last, bool dense, int... length>
+    static Groups chooseLength(int columns, std::integer_sequence<int, length...>) {
+        Groups chosen = groups<first, last, 0, false>;
+        ((columns == length ? void(chosen = groups<first, last, length, dense>) : void()), ...);
+        return chosen;
+    }
 
     // Length: of the rows where it is known beforehand, else 0. Dense: there is one row, and the objects touch.
     template <Reading first, Reading last, int Length, bool dense>
     static void groups(const Operands &shared, int rows, int columns, std::ptrdiff_t objects) {
         const Operands operands = shared; // a copy that no store below can reach
         std::ptrdiff_t object = 0;
-        if constexpr (Length == 3 && groupSize<T> == 8 && first == Reading::Rows) {
+        if constexpr (Length == 3 && !dense && groupSize<T> == 8 && first == Reading::Rows) {
             // Four elements of a row of three may be read unless it is the last row of an array.
             for (; object + groupSize<T> < objects; object += groupSize<T>) {
                 store<first, last, Length, dense, true>(operands, object, rows, columns);
@@ -344,7 +351,7 @@ private:
             std::ptrdiff_t column = 0;
 #pragma GCC unroll 2
             for (; column + 4 <= n; column += 4) {
-                add<0, 4>(sum, reader.template read<4>(row, column)...);
+                add<0, 4>(sum, products<4>(row, column, reader...));
             }
             // The elements left, where the length says so together with some of those before them.
             const auto left = n - column;
@@ -352,23 +359,55 @@ private:
                 continue;
             }
             if constexpr (Length > 4) {
-                add<4 - Length % 4, 4>(sum, reader.template read<4>(row, Length - 4)...);
+                constexpr int loaded = groupSize<T> == 4 && Length % 4 <= 2 ? 2 : 4;
+                add<loaded - Length % 4, loaded>(sum, products<loaded>(row, Length - loaded, reader...));
             } else if (left == 1) {
-                add<0, 1>(sum, reader.template read<1>(row, column)...);
+                add<0, 1>(sum, products<1>(row, column, reader...));
             } else if (left == 2) {
-                add<0, 2>(sum, reader.template read<2>(row, column)...);
+                add<0, 2>(sum, products<2>(row, column, reader...));
             } else {
-                add<0, 3>(sum, reader.template read<3, readsOn>(row, column)...);
+                add<0, 3>(sum, products<3, readsOn>(row, column, reader...));
             }
         }
         Finish()(sum).store(dst);
     }
 
-    template <int from, int to, class... Columns>
-    [[gnu::always_inline]] static void add(Group<T> &sum, const Columns &...columns) {
+    // Columns of products. Rows are multiplied before they are turned, which leaves half as many to turn.
+    template <int columns, bool readsOn = false, class First, class... Last>
+    [[gnu::always_inline]] static GroupColumns<T> products(std::ptrdiff_t row, std::ptrdiff_t column,
+                                                           const First &first, const Last &...last) {
+        if constexpr (!readsOn && canLoad<columns, First, Last...>()) {
+            return First::template turn<columns>(
+                productsOf<4>(first.template load<columns>(row, column), last.template load<columns>(row, column)...));
+        } else {
+            return productsOf<columns>(first.template read<columns, readsOn>(row, column),
+                                       last.template read<columns, readsOn>(row, column)...);
+        }
+    }
+
+    template <int columns, class First, class... Last>
+    static consteval bool canLoad() {
+        if constexpr (sources == 2 && requires { First::template isWhole<columns>; }) {
+            return (std::is_same_v<First, Last> && ...) || !First::template isWhole<columns>;
+        }
+        return false;
+    }
+
+    template <int registers, class... Columns>
+    [[gnu::always_inline]] static GroupColumns<T> productsOf(const Columns &...columns) {
+        GroupColumns<T> all;
+#pragma GCC unroll 4
+        for (int i = 0; i < registers; ++i) {
+            all[i] = product(columns[i]...);
+        }
+        return all;
+    }
+
+    template <int from, int to>
+    [[gnu::always_inline]] static void add(Group<T> &sum, const GroupColumns<T> &products) {
 #pragma GCC unroll 4
         for (int i = from; i < to; ++i) {
-            sum = sum + product(columns[i]...);
+            sum = sum + products[i];
         }
     }
 };

@@ -48,9 +48,7 @@ private:
         return operand.pointerStep[0] == 0 && operand.rowsTouch() && operand.step[0] == vectorSize;
     }
 
-    [[gnu::always_inline]] static Vectors<3> read(const float *from) {
-        return readVectors<3, Spacing::Packed>(from, vectorSize);
-    }
+    [[gnu::always_inline]] static Vectors<3> read(const float *from) { return turned(loadTriples(from)); }
 
     [[gnu::always_inline]] static void add(Vectors<3> &sums, const Vectors<3> &addends) {
         for (int j = 0; j < 3; ++j) {
@@ -78,7 +76,7 @@ private:
                 }
             }
             addTo(sums, object);
-            writeVectors<3, true>(dst + 3 * object, vectorSize, sums);
+            writeTriples(dst + 3 * object, sums);
         }
         return object;
     }

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Eight vectors of 2 to 4 single-precision elements, each in a lane of its own: one register for each element. Vectors
-// may be any number of bytes apart.
+// Groups of vectors, each in a lane of its own: one register for each element. Vectors of three elements that follow
+// one another, of both types; and eight vectors of 2 to 4 single-precision elements that may be any number of bytes
+// apart.
 
 #include "runtime/addresses.h"
 #include "runtime/lanes.h"
@@ -42,23 +43,95 @@ inline Group<float> shuffled(Group<float> a, Group<float> b) {
     return {_mm256_shuffle_ps(a.vector, b.vector, _MM_SHUFFLE(e3, e2, e1, e0))};
 }
 
+// Of each half, one element of a and one of b.
+template <int fromA, int fromB>
+inline Group<double> shuffled(Group<double> a, Group<double> b) {
+    constexpr int ofHalf = fromA | fromB << 1;
+    return {_mm256_shuffle_pd(a.vector, b.vector, ofHalf | ofHalf << 2)};
+}
+
+// A half of a (0, 1) or of b (2, 3), and another one.
+template <int low, int high>
+inline Group<float> halves(Group<float> a, Group<float> b) {
+    if constexpr (low == 0 && high == 3) {
+        return {_mm256_blend_ps(a.vector, b.vector, 0xf0)};
+    } else {
+        return {_mm256_permute2f128_ps(a.vector, b.vector, low | high << 4)};
+    }
+}
+
+template <int low, int high>
+inline Group<double> halves(Group<double> a, Group<double> b) {
+    if constexpr (low == 0 && high == 3) {
+        return {_mm256_blend_pd(a.vector, b.vector, 0xc)};
+    } else {
+        return {_mm256_permute2f128_pd(a.vector, b.vector, low | high << 4)};
+    }
+}
+
 } // namespace detail
 
-// Eight vectors in lanes. In comments, elements of the lower half are named by letter and vector.
+template <class T>
+using Triples = std::array<Group<T>, 3>;
+
+// A group of vectors of three elements that follow one another fills three registers. They are loaded so that a half of
+// each is what one half of the group needs, and turned in both halves alike. In comments, elements of the lower half
+// are named by letter and vector.
+template <class T>
+[[gnu::always_inline]] inline Triples<T> loadTriples(const T *from) {
+    const auto a = Group<T>::load(from);
+    const auto b = Group<T>::load(from + groupSize<T>);
+    const auto c = Group<T>::load(from + 2 * groupSize<T>);
+    return {detail::halves<0, 3>(a, b), detail::halves<1, 2>(a, c), detail::halves<0, 3>(b, c)};
+}
+
+[[gnu::always_inline]] inline Triples<float> turned(const Triples<float> &triples) {
+    using detail::shuffled;
+    const auto [first, second, third] = triples;                 // x0 y0 z0 x1, y1 z1 x2 y2, z2 x3 y3 z3
+    const Group<float> xy = shuffled<2, 3, 1, 2>(second, third); // x2 y2 x3 y3
+    const Group<float> yz = shuffled<1, 2, 0, 1>(first, second); // y0 z0 y1 z1
+    return {shuffled<0, 3, 0, 2>(first, xy), shuffled<0, 2, 1, 3>(yz, xy), shuffled<1, 3, 0, 3>(yz, third)};
+}
+
+[[gnu::always_inline]] inline Triples<double> turned(const Triples<double> &triples) {
+    using detail::shuffled;
+    const auto [first, second, third] = triples; // x0 y0, z0 x1, y1 z1
+    return {shuffled<0, 1>(first, second), shuffled<1, 0>(first, third), shuffled<0, 1>(second, third)};
+}
+
+[[gnu::always_inline]] inline Triples<float> turnedBack(const Triples<float> &element) {
+    using detail::shuffled;
+    const auto [x, y, z] = element;
+    const Group<float> xy = shuffled<0, 2, 0, 2>(x, y); // x0 x2 y0 y2
+    const Group<float> yz = shuffled<1, 3, 1, 3>(y, z); // y1 y3 z1 z3
+    const Group<float> zx = shuffled<0, 2, 1, 3>(z, x); // z0 z2 x1 x3
+    return {shuffled<0, 2, 0, 2>(xy, zx), shuffled<0, 2, 1, 3>(yz, xy), shuffled<1, 3, 1, 3>(zx, yz)};
+}
+
+[[gnu::always_inline]] inline Triples<double> turnedBack(const Triples<double> &element) {
+    using detail::shuffled;
+    const auto [x, y, z] = element;
+    return {shuffled<0, 0>(x, y), shuffled<0, 1>(z, x), shuffled<1, 1>(y, z)};
+}
+
+template <class T>
+[[gnu::always_inline]] inline void writeTriples(T *to, const Triples<T> &element) {
+    const auto [first, second, third] = turnedBack(element);
+    detail::halves<0, 2>(first, second).store(to);
+    detail::halves<0, 3>(third, first).store(to + groupSize<T>);
+    detail::halves<1, 3>(second, third).store(to + 2 * groupSize<T>);
+}
+
+// Eight vectors in lanes.
 template <int K, Spacing spacing>
 [[gnu::always_inline]] inline Vectors<K> readVectors(const float *from, std::ptrdiff_t stride) {
-    using detail::shuffled;
     if constexpr (K == 2 && spacing == Spacing::Packed) {
+        using detail::shuffled;
         const Group<float> first = loadHalves(from, from + 8);       // x0 y0 x1 y1
         const Group<float> second = loadHalves(from + 4, from + 12); // x2 y2 x3 y3
         return {shuffled<0, 2, 0, 2>(first, second), shuffled<1, 3, 1, 3>(first, second)};
     } else if constexpr (K == 3 && spacing == Spacing::Packed) {
-        const Group<float> first = loadHalves(from, from + 12);      // x0 y0 z0 x1
-        const Group<float> second = loadHalves(from + 4, from + 16); // y1 z1 x2 y2
-        const Group<float> third = loadHalves(from + 8, from + 20);  // z2 x3 y3 z3
-        const Group<float> xy = shuffled<2, 3, 1, 2>(second, third); // x2 y2 x3 y3
-        const Group<float> yz = shuffled<1, 2, 0, 1>(first, second); // y0 z0 y1 z1
-        return {shuffled<0, 3, 0, 2>(first, xy), shuffled<0, 2, 1, 3>(yz, xy), shuffled<1, 3, 0, 3>(yz, third)};
+        return turned(loadTriples(from));
     } else {
         constexpr int loaded = spacing == Spacing::Wide ? 4 : K;
         const auto vector = [from, stride](int k) { return loadFirst<loaded>(shifted(from, k * stride)); };
@@ -75,20 +148,13 @@ template <int K, Spacing spacing>
 
 template <int K, bool isPacked>
 [[gnu::always_inline]] inline void writeVectors(float *to, std::ptrdiff_t stride, const Vectors<K> &element) {
-    using detail::shuffled;
-    using detail::storeHalves;
     if constexpr (K == 2 && isPacked) {
+        using detail::storeHalves;
         const auto [x, y] = element;
         storeHalves({_mm256_unpacklo_ps(x.vector, y.vector)}, to, to + 8);
         storeHalves({_mm256_unpackhi_ps(x.vector, y.vector)}, to + 4, to + 12);
     } else if constexpr (K == 3 && isPacked) {
-        const auto [x, y, z] = element;
-        const Group<float> xy = shuffled<0, 2, 0, 2>(x, y); // x0 x2 y0 y2
-        const Group<float> yz = shuffled<1, 3, 1, 3>(y, z); // y1 y3 z1 z3
-        const Group<float> zx = shuffled<0, 2, 1, 3>(z, x); // z0 z2 x1 x3
-        storeHalves(shuffled<0, 2, 0, 2>(xy, zx), to, to + 12);
-        storeHalves(shuffled<0, 2, 1, 3>(yz, xy), to + 4, to + 16);
-        storeHalves(shuffled<1, 3, 1, 3>(zx, yz), to + 8, to + 20);
+        writeTriples(to, element);
     } else {
         Vectors<4> vector = {element[0], element[1], element[K > 2 ? 2 : 0], element[K - 1]};
         transposeHalves(vector);
