@@ -50,7 +50,10 @@ public:
 private:
     using L = typename LaneMemory<T>::L;
     static constexpr int lanes = LaneMemory<T>::lanes;
-    static constexpr int mostSideBySide = wantsVectors ? 0 : 4; // two groups of larger ones crowd the registers
+
+    // Groups side by side, by the largest order: more of larger ones crowd the registers.
+    static constexpr int atOnce(int most) { return wantsVectors ? (most <= 4 ? 2 : 1) : (most <= 4 ? 4 : 2); }
+
     template <int most>
     static constexpr int mostOfVectors = wantsVectors ? most : 1;
 
@@ -58,18 +61,9 @@ private:
 
     template <int most, class Order>
     LxpStatus all(Order order, int first, int count) const {
-        const auto lanesOf = [&](int object) { return group<most, L>(order, object); };
-        const auto wide = [&](int object) {
-            if constexpr (most <= mostSideBySide) {
-                return group<most, Twice<L>>(order, object);
-            } else {
-                FirstStatus status;
-                status.record(lanesOf(object));
-                status.record(lanesOf(object + lanes));
-                return status.get();
-            }
-        };
-        return overGroups<lanes>(first, count, wide, lanesOf, [&](int object) { return small<most>(order, object); });
+        return overGroups<lanes, atOnce(most)>(
+            first, count, [&](auto groups, int object) { return group<most, SideBySide<L, groups>>(order, object); },
+            [&](int object) { return small<most>(order, object); });
     }
 
     // Eigenvalues and eigenvectors of the matrix h. Calls storeValues(found, re, im), and

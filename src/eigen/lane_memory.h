@@ -59,9 +59,15 @@ private:
     static constexpr int registers = sizeof(V) / sizeof(L);
 
     static L *partsOf(L *elements) { return elements; }
-    static L *partsOf(Twice<L> *elements) { return &elements->low; }
     static const L *partsOf(const L *elements) { return elements; }
-    static const L *partsOf(const Twice<L> *elements) { return &elements->low; }
+    template <class V>
+    static L *partsOf(Twice<V> *elements) {
+        return partsOf(&elements->low);
+    }
+    template <class V>
+    static const L *partsOf(const Twice<V> *elements) {
+        return partsOf(&elements->low);
+    }
 
     static void loadPart(const Addresses<const T> &source, std::ptrdiff_t object, int rows, int columns, L *to,
                          std::ptrdiff_t step) {

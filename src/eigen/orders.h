@@ -9,6 +9,7 @@
 #include <lxpm/types.h>
 
 #include <cstddef>
+#include <type_traits>
 
 namespace lxpm {
 
@@ -44,30 +45,37 @@ inline LxpStatus overEach(int first, int count, const Solve &solve) {
     return status.get();
 }
 
-// Calls wide(object) for groups of twice as many objects as there are lanes, group(object) for one of as many, and
-// solve(object) for each where there are fewer. What no group is left for goes together with some that are computed
-// again, to the same results: a group takes hardly longer than one object.
-template <int lanes, class Wide, class Group, class Solve>
-inline LxpStatus overGroups(int first, int count, const Wide &wide, const Group &group, const Solve &solve) {
+// Groups of `lanes` objects from object `done` on, `atOnce` of them side by side as long as there are as many.
+template <int lanes, int atOnce, class Groups>
+inline void overGroupsFrom(int first, int done, int count, const Groups &groups, FirstStatus &status) {
+    constexpr int width = atOnce * lanes;
+    const std::integral_constant<int, atOnce> number;
+    for (; done + width <= count; done += width) {
+        status.record(groups(number, first + done));
+    }
+    const int left = count - done;
+    if constexpr (atOnce > 1) {
+        if (done == 0 || left <= width / 2) {
+            overGroupsFrom<lanes, atOnce / 2>(first, done, count, groups, status);
+            return;
+        }
+    }
+    if (left > 0) {
+        status.record(groups(number, first + count - width));
+    }
+}
+
+// Calls groups(number, object) for groups of as many objects as there are lanes, up to `atOnce` of them side by side,
+// and solve(object) for each object where there are fewer. What no group is left for goes together with some that are
+// computed again, to the same results: a group takes hardly longer than one object, and several at a time wait for one
+// another's roots and quotients.
+template <int lanes, int atOnce, class Groups, class Solve>
+inline LxpStatus overGroups(int first, int count, const Groups &groups, const Solve &solve) {
     if (count < lanes) {
         return overEach(first, count, solve);
     }
     FirstStatus status;
-    int object = 0;
-    for (; object + 2 * lanes <= count; object += 2 * lanes) {
-        status.record(wide(first + object));
-    }
-    const int left = count - object;
-    if (left > lanes && object > 0) {
-        status.record(wide(first + count - 2 * lanes));
-        return status.get();
-    }
-    if (left > lanes) {
-        status.record(group(first));
-    }
-    if (left > 0) {
-        status.record(group(first + count - lanes));
-    }
+    overGroupsFrom<lanes, atOnce>(first, 0, count, groups, status);
     return status.get();
 }
 

@@ -73,13 +73,16 @@ private:
     static constexpr int mostInLanes = 16; // of a larger order the registers would leave the first cache
     static constexpr int mostOnStack = 64;
 
+    // Groups side by side, by the largest order. Where there are many vectors, rotating them in single precision takes
+    // longer than what it waits for.
+    static constexpr int atOnce(int most) { return wantsVectors && most > 4 && sizeof(T) == sizeof(float) ? 2 : 4; }
+
     SymmetricKernel(const SymmetricProblem<T> &problem, T *buffer) : problem_(problem), buffer_(buffer) {}
 
     template <int most, class Order>
     LxpStatus all(Order order, int first, int count) const {
-        return overGroups<lanes>(
-            first, count, [&](int object) { return group<most, Twice<L>>(order, object); },
-            [&](int object) { return group<most, L>(order, object); },
+        return overGroups<lanes, atOnce(most)>(
+            first, count, [&](auto groups, int object) { return group<most, SideBySide<L, groups>>(order, object); },
             [&](int object) { return small<most>(order, object); });
     }
 

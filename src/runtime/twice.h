@@ -34,6 +34,18 @@ struct NumberOf<Twice<L>> {
     static constexpr int lanes = 2 * NumberOf<L>::lanes;
 };
 
+// One, two or four groups.
+template <class L, int groups>
+struct SideBySideOf {
+    using Number = Twice<typename SideBySideOf<L, groups / 2>::Number>;
+};
+template <class L>
+struct SideBySideOf<L, 1> {
+    using Number = L;
+};
+template <class L, int groups>
+using SideBySide = typename SideBySideOf<L, groups>::Number;
+
 template <class L>
 inline MaskOf<Twice<L>> isLess(Twice<L> a, Twice<L> b) {
     return {isLess(a.low, b.low), isLess(a.high, b.high)};

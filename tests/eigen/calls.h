@@ -60,20 +60,33 @@ struct GeneralResult {
     std::vector<T> left;
 };
 
-/// Values and vectors of one matrix; it has to converge.
+/// Values and vectors of dense matrices; they have to converge.
 template <class T>
-GeneralResult<T> callGeneral(const std::vector<T> &matrix, int order) {
-    const int row = order * static_cast<int>(sizeof(T));
-    GeneralResult<T> result = {std::vector<T>(order), std::vector<T>(order), std::vector<T>(order * order),
-                               std::vector<T>(order * order)};
+GeneralResult<T> callGeneral(const std::vector<T> &matrices, int order, int count = 1) {
+    constexpr int element = sizeof(T);
+    const int row = order * element;
+    const int object = order * row;
+    GeneralResult<T> result = {std::vector<T>(count * order), std::vector<T>(count * order),
+                               std::vector<T>(count * order * order), std::vector<T>(count * order * order)};
     std::vector<T> buffer(order * (3 * order + 5));
+    const T *source = matrices.data();
+    T *right = result.right.data();
+    T *left = result.left.data();
+    T *re = result.re.data();
+    T *im = result.im.data();
     LxpStatus status;
     if constexpr (sizeof(T) == 4) {
-        status = lxpmEigenValuesVectors_m_32f(matrix.data(), row, 4, result.right.data(), row, 4, result.left.data(),
-                                              row, 4, result.re.data(), result.im.data(), order, buffer.data());
+        status = count == 1
+                     ? lxpmEigenValuesVectors_m_32f(source, row, element, right, row, element, left, row, element, re,
+                                                    im, order, buffer.data())
+                     : lxpmEigenValuesVectors_ma_32f(source, object, row, element, right, object, row, element, left,
+                                                     object, row, element, re, im, order, count, buffer.data());
     } else {
-        status = lxpmEigenValuesVectors_m_64f(matrix.data(), row, 8, result.right.data(), row, 8, result.left.data(),
-                                              row, 8, result.re.data(), result.im.data(), order, buffer.data());
+        status = count == 1
+                     ? lxpmEigenValuesVectors_m_64f(source, row, element, right, row, element, left, row, element, re,
+                                                    im, order, buffer.data())
+                     : lxpmEigenValuesVectors_ma_64f(source, object, row, element, right, object, row, element, left,
+                                                     object, row, element, re, im, order, count, buffer.data());
     }
     EXPECT_EQ(status, lxpStatusOk);
     return result;

@@ -133,11 +133,14 @@ TYPED_TEST(SymmetricEdges, NanDoesNotConverge) {
     }
 }
 
+// Arrays whose objects go in four groups of lanes at a time, in two and in one, and in groups that begin among those of
+// the last one.
+constexpr int arrayCounts[] = {13, 19, 37, 45, 61};
+
 // One object of an array fails, at every place of a group of lanes and behind the last group; all others are what they
 // are by themselves.
 template <class T>
-void failAtEveryPlace(bool wantsVectors, const std::vector<T> &failing, int order, LxpStatus expected) {
-    constexpr int count = 19;
+void failAtEveryPlace(int count, bool wantsVectors, const std::vector<T> &failing, int order, LxpStatus expected) {
     const int area = order * order;
     std::vector<T> matrices(count * area);
     for (std::size_t i = 0; i < matrices.size(); ++i) {
@@ -181,11 +184,13 @@ void failAtEveryPlace(bool wantsVectors, const std::vector<T> &failing, int orde
 TYPED_TEST(SymmetricEdges, AFailingObjectDoesNotDisturbTheOthers) {
     using T = TypeParam;
     const T x = nan<T>;
-    failAtEveryPlace<T>(false, {1, 1, 1, 1}, 2, lxpStatusSingularErr);
-    for (const bool wantsVectors : {false, true}) {
-        failAtEveryPlace<T>(wantsVectors, {1, 0, 0, 0, 0, 0, 0, 0, 2}, 3, lxpStatusSingularErr);
-        failAtEveryPlace<T>(wantsVectors, {1, x, 1, x, 1, 1, 1, 1, 1}, 3, lxpStatusConvergeErr);
-        failAtEveryPlace<T>(wantsVectors, std::vector<T>(49, x), 7, lxpStatusConvergeErr);
+    for (const int count : arrayCounts) {
+        failAtEveryPlace<T>(count, false, {1, 1, 1, 1}, 2, lxpStatusSingularErr);
+        for (const bool wantsVectors : {false, true}) {
+            failAtEveryPlace<T>(count, wantsVectors, {1, 0, 0, 0, 0, 0, 0, 0, 2}, 3, lxpStatusSingularErr);
+            failAtEveryPlace<T>(count, wantsVectors, {1, x, 1, x, 1, 1, 1, 1, 1}, 3, lxpStatusConvergeErr);
+            failAtEveryPlace<T>(count, wantsVectors, std::vector<T>(49, x), 7, lxpStatusConvergeErr);
+        }
     }
 }
 
@@ -322,33 +327,66 @@ TYPED_TEST(GeneralEdges, AnExhaustedBudgetLeavesWhatWasFound) {
     }
 }
 
+// One object fails, at every place; all others are what they are by themselves.
+template <class T>
+void failAtEveryPlace(int count, int order) {
+    const int area = order * order;
+    std::vector<T> buffer(order * (order + 5));
+    for (int place = 0; place < count; ++place) {
+        std::vector<T> source(count * area);
+        for (std::size_t i = 0; i < source.size(); ++i) {
+            source[i] = T(0.25) * T((i * 37) % 29) - T(3);
+        }
+        std::fill_n(source.begin() + place * area, area, nan<T>);
+        std::vector<T> re(count * order, untouched);
+        std::vector<T> im = re;
+        std::vector<T> re1 = re;
+        std::vector<T> im1 = re;
+        EXPECT_EQ(callGeneralValues(source.data(), re.data(), im.data(), order, count, buffer.data()),
+                  lxpStatusConvergeErr);
+        for (int object = 0; object < count; ++object) {
+            EXPECT_EQ(callGeneralValues(source.data() + object * area, re1.data() + object * order,
+                                        im1.data() + object * order, order, 1, buffer.data()),
+                      object == place ? lxpStatusConvergeErr : lxpStatusOk);
+        }
+        EXPECT_EQ(re, re1);
+        EXPECT_EQ(im, im1);
+        EXPECT_EQ(re[place * order], untouched);
+    }
+}
+
 TYPED_TEST(GeneralEdges, AFailingObjectDoesNotDisturbTheOthers) {
     using T = TypeParam;
     setThreadCount(1);
-    for (const int order : {3, 5, 8}) {
-        constexpr int count = 19;
-        const int area = order * order;
-        std::vector<T> buffer(order * (order + 5));
-        for (int place = 0; place < count; ++place) {
+    for (const int count : arrayCounts) {
+        for (const int order : {3, 5, 8}) {
+            failAtEveryPlace<T>(count, order);
+        }
+    }
+}
+
+// Whichever groups of lanes an object goes in, and with whom.
+TYPED_TEST(GeneralEdges, ArraysHaveTheBitsOfSingleMatrices) {
+    using T = TypeParam;
+    setThreadCount(1);
+    for (const int count : arrayCounts) {
+        for (int order = 1; order <= 17; ++order) {
+            const int area = order * order;
             std::vector<T> source(count * area);
             for (std::size_t i = 0; i < source.size(); ++i) {
-                source[i] = T(0.25) * T((i * 37) % 29) - T(3);
+                source[i] = T(0.125) * T((i * i * 37 + 11 * i) % 101) - T(6);
             }
-            std::fill_n(source.begin() + place * area, area, nan<T>);
-            std::vector<T> re(count * order, untouched);
-            std::vector<T> im = re;
-            std::vector<T> re1 = re;
-            std::vector<T> im1 = re;
-            EXPECT_EQ(callGeneralValues(source.data(), re.data(), im.data(), order, count, buffer.data()),
-                      lxpStatusConvergeErr);
+            const GeneralResult<T> all = callGeneral(source, order, count);
             for (int object = 0; object < count; ++object) {
-                EXPECT_EQ(callGeneralValues(source.data() + object * area, re1.data() + object * order,
-                                            im1.data() + object * order, order, 1, buffer.data()),
-                          object == place ? lxpStatusConvergeErr : lxpStatusOk);
+                const auto part = [object](const std::vector<T> &of, int size) {
+                    return std::vector<T>(of.begin() + object * size, of.begin() + (object + 1) * size);
+                };
+                const GeneralResult<T> one = callGeneral(part(source, area), order);
+                EXPECT_EQ(part(all.re, order), one.re);
+                EXPECT_EQ(part(all.im, order), one.im);
+                EXPECT_EQ(part(all.right, area), one.right);
+                EXPECT_EQ(part(all.left, area), one.left);
             }
-            EXPECT_EQ(re, re1);
-            EXPECT_EQ(im, im1);
-            EXPECT_EQ(re[place * order], untouched);
         }
     }
 }
