@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 // Beside LAPACK, in double precision, on the kinds of matrices with which LAPACK's own testers try their eigensolvers
-// (programs dchkst and dchkhs: Demmel and McKenney, "A test matrix generation suite", LAPACK Working Note 9, 1989).
+// (programs dchkst and dchkhs: Demmel and McKenney, "A test matrix generation suite", LAPACK Working Note 9, 1989), and
+// on the named ones.
 
 #include "eigen/calls.h"
+#include "eigen/named_matrices.h"
 #include "support/thread_count.h"
 
 #include <gtest/gtest.h>
@@ -16,13 +18,13 @@
 #include <complex>
 #include <limits>
 #include <random>
+#include <string>
 #include <vector>
 
 namespace lxpm::test {
 
 namespace {
 
-using Matrix = std::vector<double>; // by rows
 using Value = std::complex<double>;
 
 constexpr int orders[] = {1, 2, 3, 5, 10, 20};
@@ -318,6 +320,20 @@ TYPED_TEST(BesideLapack, GeneralKinds) {
             this->solveGeneral(generalMatrix(kind, order, Limits::epsilon(), std::sqrt(double(Limits::max())),
                                              std::sqrt(double(Limits::min()))),
                                order);
+        }
+    }
+}
+
+TYPED_TEST(BesideLapack, NamedMatrices) {
+    setThreadCount(1);
+    for (const int order : testedOrders) {
+        for (const Named &named : symmetricMatrices) {
+            SCOPED_TRACE(std::string(named.name) + " of order " + std::to_string(order));
+            this->solveSymmetric(make(order, named.element), order);
+        }
+        for (const Named &named : generalMatrices) {
+            SCOPED_TRACE(std::string(named.name) + " of order " + std::to_string(order));
+            this->solveGeneral(make(order, named.element), order);
         }
     }
 }

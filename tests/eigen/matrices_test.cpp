@@ -5,6 +5,7 @@
 // Arrays hold matrices whose iterations differ, so that the lanes part.
 
 #include "eigen/calls.h"
+#include "eigen/named_matrices.h"
 #include "support/thread_count.h"
 
 #include <gtest/gtest.h>
@@ -22,72 +23,6 @@ namespace {
 
 using Wide = long double;
 using WideComplex = std::complex<Wide>;
-using Matrix = std::vector<double>;
-
-Matrix make(int order, double (*element)(int i, int j, int order)) {
-    Matrix matrix(order * order);
-    for (int i = 0; i < order; ++i) {
-        for (int j = 0; j < order; ++j) {
-            matrix[i * order + j] = element(i, j, order);
-        }
-    }
-    return matrix;
-}
-
-struct Named {
-    const char *name;
-    double (*element)(int i, int j, int order);
-};
-
-constexpr Named symmetricMatrices[] = {
-    {"Hilbert", [](int i, int j, int) { return 1.0 / (i + j + 1); }},
-    {"Wilkinson", [](int i, int j, int n) { return i == j ? std::abs(n - 1 - 2 * i) / 2.0 : std::abs(i - j) == 1; }},
-    {"SecondDifference", [](int i, int j, int) { return i == j                 ? 2.0
-                                                        : std::abs(i - j) == 1 ? -1.0
-                                                                               : 0.0; }},
-    {"Ones", [](int, int, int) { return 1.0; }},
-    {"Identity", [](int i, int j, int) { return i == j ? 1.0 : 0.0; }},
-    {"Clustered", [](int i, int j, int) { return (i == j ? 3.0 : 0.0) + 1e-5 * ((i + 1) * (j + 1) % 7); }},
-    {"Graded", [](int i, int j, int) { return std::pow(10.0, -0.3 * (i + j)) * (1 + (i * j) % 3); }},
-    {"GradedUpwards", [](int i, int j, int n) { return std::pow(10.0, 0.3 * (i + j - 2 * n)) * (1 + (i * j) % 3); }},
-    {"Repeated", [](int i, int j, int) { return i == j ? 2.0 + i % 2 : 0.0; }},
-    {"Exchange", [](int i, int j, int n) { return i + j == n - 1 ? 1.0 : 0.0; }},
-    {"Minimum", [](int i, int j, int) { return 1.0 + std::min(i, j); }},
-};
-
-constexpr Named generalMatrices[] = {
-    {"Frank",
-     [](int i, int j, int n) { return j < i - 1    ? 0.0
-                                      : j == i - 1 ? n - 1.0 - j
-                                                   : n - std::max(i, j) + 0.0; }},
-    {"Grcar", [](int i, int j, int) { return i == j + 1             ? -1.0
-                                             : j >= i && j <= i + 3 ? 1.0
-                                                                    : 0.0; }},
-    {"Clement", [](int i, int j, int n) { return j == i + 1   ? n - 1.0 - i
-                                                 : j == i - 1 ? i + 0.0
-                                                              : 0.0; }},
-    {"Jordan", [](int i, int j, int) { return i == j       ? 2.0
-                                              : j == i + 1 ? 1.0
-                                                           : 0.0; }},
-    {"Nilpotent", [](int i, int j, int) { return j == i + 1 ? 1.0 : 0.0; }},
-    {"NilpotentBelow", [](int i, int j, int) { return j == i - 1 ? 1.0 : 0.0; }},
-    {"Zero", [](int, int, int) { return 0.0; }},
-    {"CompanionOfOnes", [](int i, int j, int) { return i == 0       ? -1.0
-                                                       : i == j + 1 ? 1.0
-                                                                    : 0.0; }},
-    {"Cyclic", [](int i, int j, int n) { return i == (j + 1) % n ? 1.0 : 0.0; }},
-    {"Rotations",
-     [](int i, int j, int) {
-         return i == j ? std::cos(i / 2) : i / 2 != j / 2 ? 0.0 : (i < j ? -1 : 1) * std::sin(i / 2);
-     }},
-    {"Chebyshev", [](int i, int j, int) { return std::cos(0.3 * i * j) + (i == j ? 0.5 : 0.0); }},
-    {"Hilbert", [](int i, int j, int) { return 1.0 / (i + j + 1); }},
-    {"Lotkin", [](int i, int j, int) { return i == 0 ? 1.0 : 1.0 / (i + j + 1); }},
-    {"Graded", [](int i, int j, int) { return std::pow(10.0, -0.3 * (i + j)) * (1 + (i * 5 + j * 3) % 7); }},
-    {"Triangular", [](int i, int j, int) { return j < i ? 0.0 : 1.0 + (i * 5 + j * 3) % 7; }},
-};
-
-const int testedOrders[] = {1, 2, 3, 4, 5, 6, 7, 8, 11, 16, 17, 24, 40, 64};
 
 template <class T>
 std::vector<T> narrowed(const Matrix &matrix) {
@@ -108,40 +43,91 @@ class EigenMatrices : public testing::Test {
 protected:
     static constexpr Wide eps = std::numeric_limits<T>::epsilon();
 
+    /// The product of the values is the determinant of a matrix that differs from this one by `bound` in norm; and a
+    /// determinant is no larger than the product of the lengths of its rows (Hadamard).
+    static void expectDeterminant(const T *matrix, WideComplex product, int order, Wide bound) {
+        Wide before = 1;
+        Wide after = 1;
+        for (int i = 0; i < order; ++i) {
+            Wide squares = 0;
+            for (int j = 0; j < order; ++j) {
+                squares += Wide(matrix[i * order + j]) * matrix[i * order + j];
+            }
+            before *= std::sqrt(squares);
+            after *= std::sqrt(squares) + bound;
+        }
+        EXPECT_LE(std::abs(product - determinant(matrix, order)), after - before);
+    }
+
+    /// By elimination with row pivots.
+    static Wide determinant(const T *matrix, int order) {
+        std::vector<Wide> a(matrix, matrix + order * order);
+        Wide product = 1;
+        for (int k = 0; k < order; ++k) {
+            int pivot = k;
+            for (int i = k + 1; i < order; ++i) {
+                if (std::fabs(a[i * order + k]) > std::fabs(a[pivot * order + k])) {
+                    pivot = i;
+                }
+            }
+            if (pivot != k) {
+                std::swap_ranges(&a[k * order], &a[k * order] + order, &a[pivot * order]);
+                product = -product;
+            }
+            product *= a[k * order + k];
+            if (product == 0) {
+                return 0;
+            }
+            for (int i = k + 1; i < order; ++i) {
+                const Wide factor = a[i * order + k] / a[k * order + k];
+                for (int j = k; j < order; ++j) {
+                    a[i * order + j] -= factor * a[k * order + j];
+                }
+            }
+        }
+        return product;
+    }
+
     /// Of what the library gave for one symmetric matrix; absolute tolerances are added to the relative ones.
     static void expectSymmetric(const T *matrix, const T *vectors, const T *values, int order) {
         const Wide bound = (20 * normOf(matrix, order) + 4) * eps * order;
         Wide trace = 0;
         Wide sum = 0;
+        Wide product = 1;
         for (int c = 0; c < order; ++c) {
             trace += matrix[c * order + c];
             sum += values[c];
+            product *= values[c];
             if (c > 0) {
                 EXPECT_GE(values[c - 1], values[c]);
             }
             for (int i = 0; i < order; ++i) {
-                Wide product = 0;
+                Wide image = 0;
                 Wide cosine = 0;
                 for (int j = 0; j < order; ++j) {
-                    product += Wide(matrix[i * order + j]) * vectors[j * order + c];
+                    image += Wide(matrix[i * order + j]) * vectors[j * order + c];
                     cosine += Wide(vectors[j * order + i]) * vectors[j * order + c];
                 }
-                EXPECT_LE(std::fabs(product - Wide(values[c]) * vectors[i * order + c]), bound) << "vector " << c;
+                EXPECT_LE(std::fabs(image - Wide(values[c]) * vectors[i * order + c]), bound) << "vector " << c;
                 EXPECT_LE(std::fabs(cosine - (i == c)), 20 * order * eps) << "vectors " << i << ", " << c;
             }
         }
         EXPECT_LE(std::fabs(trace - sum), bound);
+        expectDeterminant(matrix, product, order, bound);
     }
 
     static void expectGeneral(const T *matrix, const GeneralResult<T> &result, int order, Wide scale = 1) {
         const Wide bound = 20 * normOf(matrix, order) * eps * order * scale;
         Wide trace = 0;
         Wide sum = 0;
+        WideComplex product = 1;
         for (int c = 0; c < order; ++c) {
             trace += matrix[c * order + c];
             sum += result.re[c];
+            product *= WideComplex(result.re[c], result.im[c]);
         }
         EXPECT_LE(std::fabs(trace - sum), bound);
+        expectDeterminant(matrix, product, order, bound);
         for (int c = 0; c < order; c += 1 + (result.im[c] != 0)) {
             const bool isPair = result.im[c] != 0;
             if (isPair) {
