@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// The orders and lengths that are measured. The library's cases and the peers' kernels are made of the same lists.
+// The orders and lengths of arrays that are measured: the library's cases and the peers' kernels are made of the same
+// lists.
 
 #include <array>
 #include <cstddef>

@@ -11,7 +11,6 @@ namespace lxpm::bench {
 
 namespace {
 
-// Orders 3 to 6 are those with kernels of their own; 8 stands for the general ones.
 std::string sizeName(Kind kind, int n) {
     const std::string len = std::to_string(n);
     return kind == Kind::matrix ? len + "x" + len : len;

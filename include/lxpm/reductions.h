@@ -38,11 +38,12 @@ extern "C" {
  * Bits. A product, a difference, a root are each one IEEE operation; Transpose copies the bits. Sums start from +0
  * and add their terms in ascending order (those of a matrix row by row), with one exception. Where elements touch
  * (every element stride is the element size; strided and _L layouts only), and a vector has 16 elements or more, or a
- * matrix 16 columns or more, the sum is split: with P = 32 for 32f and P = 16 for 64f, term j (column j of each row)
- * is added to partial sum j mod P, in ascending order, starting from +0; then the upper half of the partial sums is
- * added to the lower half, element by element, until one sum is left. Nothing else has an influence: not the alignment,
- * not the other strides, not the number of objects or of threads, nor an object's place in an array. (Of several NaN
- * operands, which one's payload survives is left to the processor.)
+ * matrix has 8, 12, or 16 and more columns, the sum is split: with P = 32 for 32f and P = 16 for 64f, term j (column j
+ * of a row) is added to partial sum j mod P, in every second row of a matrix to partial sum (j + P / 2) mod P, in
+ * ascending order, starting from +0; then the upper half of the partial sums is added to the lower half, element by
+ * element, until one sum is left. Nothing else has an influence: not the alignment, not the other strides, not the
+ * number of objects or of threads, nor an object's place in an array. (Of several NaN operands, which one's payload
+ * survives is left to the processor.)
  *
  * Aliasing. The dst of CrossProduct may be exactly a source array, or for single vectors a source: same address, same
  * strides or pointers, same layout. Any other overlap of dst with a source gives undefined results; Transpose does not

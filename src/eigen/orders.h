@@ -45,12 +45,13 @@ inline LxpStatus overEach(int first, int count, const Solve &solve) {
     return status.get();
 }
 
-// Groups of `lanes` objects from object `done` on, `atOnce` of them side by side as long as there are as many.
+// Groups of `lanes` objects from object `done` on, `atOnce` of them side by side as long as there are as many. If what
+// is left is more than half of that, it goes once more so, with objects that are done already; else half as many go.
 template <int lanes, int atOnce, class Groups>
 inline void overGroupsFrom(int first, int done, int count, const Groups &groups, FirstStatus &status) {
     constexpr int width = atOnce * lanes;
     const std::integral_constant<int, atOnce> number;
-    for (; done + width <= count; done += width) {
+    for (; count - done >= width; done += width) {
         status.record(groups(number, first + done));
     }
     const int left = count - done;
@@ -67,8 +68,8 @@ inline void overGroupsFrom(int first, int done, int count, const Groups &groups,
 
 // Calls groups(number, object) for groups of as many objects as there are lanes, up to `atOnce` of them side by side,
 // and solve(object) for each object where there are fewer. What no group is left for goes together with some that are
-// computed again, to the same results: a group takes hardly longer than one object, and several at a time wait for one
-// another's roots and quotients.
+// computed again, to the same results: a group takes hardly longer than one object, and of several at a time each
+// computes while the others wait for their roots and quotients.
 template <int lanes, int atOnce, class Groups, class Solve>
 inline LxpStatus overGroups(int first, int count, const Groups &groups, const Solve &solve) {
     if (count < lanes) {

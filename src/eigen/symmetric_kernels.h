@@ -8,6 +8,7 @@
 #include "eigen/orders.h"
 #include "eigen/symmetric.h"
 #include "eigen/symmetric_objects.h"
+#include "runtime/twice.h"
 #include "runtime/with_order.h"
 
 #include <algorithm>
@@ -70,7 +71,7 @@ public:
 private:
     using L = typename LaneMemory<T>::L;
     static constexpr int lanes = LaneMemory<T>::lanes;
-    static constexpr int mostInLanes = 16; // of a larger order the registers would leave the first cache
+    static constexpr int mostInLanes = 16; // larger ones leave the first cache
     static constexpr int mostOnStack = 64;
 
     // Groups side by side, by the largest order. Where there are many vectors, rotating them in single precision takes

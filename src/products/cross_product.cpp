@@ -6,7 +6,12 @@
 #include "products/readers.h"
 #include "runtime/parallel.h"
 #include "runtime/rows.h"
+#include "runtime/vector_groups.h"
 #include "runtime/work.h"
+
+#include <array>
+#include <cstddef>
+#include <type_traits>
 
 namespace lxpm {
 
@@ -65,14 +70,14 @@ void crossOneByOne(const CrossOperands<T> &shared, std::ptrdiff_t object, std::p
 }
 
 // A group's vectors, four lanes for three elements.
-inline std::array<Lanes<float, 4>, 8> vectorsOf(const std::array<Group<float>, 3> &columns) {
+inline std::array<Lanes<float, 4>, 8> vectorsOf(const Triples<float> &columns) {
     std::array<Lanes<float, 8>, 4> r = {columns[0], columns[1], columns[2], columns[2]};
     transposeHalves(r);
     return {lowHalf(r[0]),  lowHalf(r[1]),  lowHalf(r[2]),  lowHalf(r[3]),
             highHalf(r[0]), highHalf(r[1]), highHalf(r[2]), highHalf(r[3])};
 }
 
-inline std::array<Lanes<double, 4>, 4> vectorsOf(const std::array<Group<double>, 3> &columns) {
+inline std::array<Lanes<double, 4>, 4> vectorsOf(const Triples<double> &columns) {
     std::array<Lanes<double, 4>, 4> r = {columns[0], columns[1], columns[2], columns[2]};
     transpose(r);
     return r;
@@ -100,8 +105,8 @@ template <class T, Writing writing>
 }
 
 // Bytes from vector to vector where they are known beforehand, else 0.
-template <class T, Reading reading, bool isDense>
-constexpr std::ptrdiff_t stepOf = (isDense && reading == Reading::Rows) ? std::ptrdiff_t(sizeof(T)) * length : 0;
+template <class T, Reading reading, bool dense>
+constexpr std::ptrdiff_t stepOf = (dense && reading == Reading::Rows) ? std::ptrdiff_t(sizeof(T)) * length : 0;
 
 // All whole groups. Returns how many objects they have. Dense: sources that are read as rows follow one another.
 template <class T, bool dense, Reading first, Reading second, Writing writing>
@@ -115,8 +120,9 @@ std::ptrdiff_t crossGroups(const CrossOperands<T> &shared, std::ptrdiff_t object
                                crossed(a.template read<length, readsOn>(0, 0), b.template read<length, readsOn>(0, 0)));
     };
     std::ptrdiff_t object = 0;
-    if (!dense && operands.first.pointerStep[0] == 0 && operands.second.pointerStep[0] == 0) {
-        for (; object + groupSize<T> < objects; object += groupSize<T>) {
+    if constexpr (!dense) {
+        const bool readsOn = mayReadOn(operands.first) && mayReadOn(operands.second);
+        for (; readsOn && object + groupSize<T> < objects; object += groupSize<T>) {
             group(object, std::true_type());
         }
     }

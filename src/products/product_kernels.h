@@ -150,8 +150,8 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
             // Long columns that fill registers are faster one matrix after the other than in groups of matrices.
             constexpr std::ptrdiff_t leastInner = 8; // measured in both types
             const bool goesByRows = RowProduct<T>::accepts(p, count);
-            const bool fillsRegisters = goesByRows && p.columns % groupSize<T> == 0 && p.inner >= leastInner;
-            const bool goesByGroups = !fillsRegisters && GroupProduct<T>::isBetter(p, count);
+            const bool isBetterByRows = goesByRows && p.columns % groupSize<T> == 0 && p.inner >= leastInner;
+            const bool goesByGroups = !isBetterByRows && GroupProduct<T>::isBetter(p, count);
             const std::ptrdiff_t done = goesByGroups ? GroupProduct<T>::run(p, count) : 0;
             if (done == count) {
                 return lxpStatusOk;

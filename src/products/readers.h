@@ -5,8 +5,10 @@
 // Groups: as many objects of an array as a register has lanes, one object in each lane. A reader brings columns of
 // their elements into registers. How it does so depends on how the elements stand in memory:
 //
-//   Rows      the elements of a row touch: four of each object are loaded at once and turned in registers
-//             (PointedRows: through a pointer to each object)
+//   Rows      the elements of a row touch: four of each object are loaded at once and turned in registers, whole
+//   vectors
+//             of three that follow one another three registers at a time (PointedRows: through a pointer to each
+//             object)
 //   Objects   the same element of successive objects touches: a column is one load
 //   Same      a single vector that is used with every object of the array, as a dense copy (SingleVector)
 //   Apart     anything else: one by one
@@ -39,7 +41,15 @@ inline Reading readingOf(const Addresses<const T> &source) {
     return source.step[0] == sizeof(T) && source.pointerStep[0] == 0 ? Reading::Objects : Reading::Apart;
 }
 
-// Columns of a group, as many as are asked for.
+// Whether four elements of a row of three may be read where another object follows: if that one is close behind, no
+// page that might not be there stands between them.
+template <class T>
+inline bool mayReadOn(const Addresses<const T> &source) {
+    constexpr std::ptrdiff_t smallestPage = 4096;
+    return source.pointerStep[0] == 0 && source.step[0] <= smallestPage;
+}
+
+// Columns of a group, as many as are asked for, or what is to become columns.
 template <class T>
 using GroupColumns = std::array<Group<T>, 4>;
 
@@ -159,7 +169,7 @@ public:
         : start(shifted(source.base, source.offset + first * source.step[0])), step(Step != 0 ? Step : source.step[0]),
           rowStep(source.step[1]) {}
 
-    // Vectors that follow one another are loaded together, whatever rows they stand in then.
+    // Vectors that follow one another are loaded together: three registers hold them, and row and column are 0.
     template <int columns>
     static constexpr bool isWhole = columns == 3 && Step == 3 * sizeof(T);
 
@@ -172,7 +182,7 @@ public:
     template <int columns, bool readsOn = false>
     [[gnu::always_inline]] GroupColumns<T> load(std::ptrdiff_t row, std::ptrdiff_t column) const {
         if constexpr (isWhole<columns>) {
-            const auto [first, second, third] = loadTriples(start); // there is one row
+            const auto [first, second, third] = loadTriples(start);
             return {first, second, third};
         } else {
             return objects<columns, readsOn>(shifted(start, row * rowStep) + column,
@@ -215,7 +225,7 @@ public:
         return turn<columns>(load<columns>(row, column));
     }
 
-    template <int columns, bool = false>
+    template <int columns>
     [[gnu::always_inline]] GroupColumns<T> load(std::ptrdiff_t row, std::ptrdiff_t column) const {
         return objects<columns>(offset + row * rowStep + column * static_cast<std::ptrdiff_t>(sizeof(T)),
                                 std::make_integer_sequence<int, groupSize<T>>());
@@ -268,7 +278,7 @@ public:
     }
 
     // As the rows of objects that this vector is multiplied with are loaded.
-    template <int columns, bool readsOn = false>
+    template <int columns>
     [[gnu::always_inline]] GroupColumns<T> load(std::ptrdiff_t, std::ptrdiff_t column) const {
         return objects<columns>(first + column, std::make_integer_sequence<int, groupSize<T>>());
     }

@@ -113,14 +113,14 @@ private:
     // Short rows whose lengths the compiler knows: they are written out.
     using Lengths = std::integer_sequence<int, 8, 12, 16, 32, 64>;
 
-    // A matrix that is written out as a whole; of larger ones that takes longer.
-    static constexpr int square = 8;
+    // The order of matrices that are written out as a whole; of larger ones that takes longer.
+    static constexpr int writtenOut = 8;
 
     template <Walking walking>
     static Split chooseRows(int rows, int columns) {
         if constexpr (sources == 1) {
-            if (rows == square && columns == square) {
-                return splitWalking<walking, square, square>;
+            if (rows == writtenOut && columns == writtenOut) {
+                return splitWalking<walking, writtenOut, writtenOut>;
             }
             if (rows > 1) {
                 return chooseColumns<walking, 0>(columns, Lengths());
@@ -139,18 +139,18 @@ private:
     // Rows, columns: their numbers where they are known beforehand, else 0.
     template <Walking walking, int Rows, int Columns>
     static void splitWalking(const Operands &operands, int rows, int columns, int objects) {
-        splitObjects<walking, Rows == square>(operands, Rows != 0 ? Rows : rows, Columns != 0 ? Columns : columns,
-                                              objects, Index());
+        splitObjects<walking, Rows == writtenOut>(operands, Rows != 0 ? Rows : rows, Columns != 0 ? Columns : columns,
+                                                  objects, Index());
     }
 
-    template <Walking walking, bool isSquare, std::size_t... s>
+    template <Walking walking, bool isWrittenOut, std::size_t... s>
     [[gnu::always_inline]] static void splitObjects(const Operands &shared, int rows, int columns, int objects,
                                                     std::index_sequence<s...>) {
         const Operands operands = shared; // a copy that no store below can reach
         std::tuple<WalkOf<walking, s>...> walks(operands.src[s]...);
         const auto next = [&]() __attribute__((always_inline)) {
             const Group<T> sum =
-                splitSum<isSquare>(rows, columns, {operands.src[s].step[1]...}, std::get<s>(walks).object()...);
+                splitSum<isWrittenOut>(rows, columns, {operands.src[s].step[1]...}, std::get<s>(walks).object()...);
             (std::get<s>(walks).next(), ...);
             return sum;
         };
@@ -169,7 +169,7 @@ private:
     }
 
     // Of one object, whose rows start at src.
-    template <bool isSquare, class... Pointers>
+    template <bool isWrittenOut, class... Pointers>
     [[gnu::always_inline]] static Group<T>
     splitSum(int rows, std::ptrdiff_t columns, std::array<std::ptrdiff_t, sources> rowStep, const Pointers *...src) {
         std::array<Group<T>, 4> partial = {Group<T>::splat(0), Group<T>::splat(0), Group<T>::splat(0),
@@ -182,9 +182,9 @@ private:
             std::size_t source = 0;
             ((src = shifted(src, rowStep[source++])), ...);
         };
-        if constexpr (isSquare) {
+        if constexpr (isWrittenOut) {
 #pragma GCC unroll 8
-            for (int row = 0; row < square; ++row) {
+            for (int row = 0; row < writtenOut; ++row) {
                 addNext();
             }
         } else {
@@ -288,7 +288,7 @@ private:
         return last == Reading::Same ? last : first;
     }
 
-    // Vectors one behind the other, of a length with a kernel of its own.
+    // Objects one behind the other, each of one row.
     static bool isDense(const Operands &operands, int rows, int columns, bool lastIsSame) {
         bool dense = rows == 1 && columns >= 3;
         for (std::size_t source = 0; source < sources - lastIsSame; ++source) {
@@ -319,8 +319,11 @@ private:
         const Operands operands = shared; // a copy that no store below can reach
         std::ptrdiff_t object = 0;
         if constexpr (Length == 3 && !dense && groupSize<T> == 8 && first == Reading::Rows) {
-            // Four elements of a row of three may be read unless it is the last row of an array.
-            for (; object + groupSize<T> < objects; object += groupSize<T>) {
+            bool readsOn = true;
+            for (const auto &source : operands.src) {
+                readsOn &= mayReadOn(source);
+            }
+            for (; readsOn && object + groupSize<T> < objects; object += groupSize<T>) {
                 store<first, last, Length, dense, true>(operands, object, rows, columns);
             }
         }
@@ -376,7 +379,7 @@ private:
     template <int columns, bool readsOn = false, class First, class... Last>
     [[gnu::always_inline]] static GroupColumns<T> products(std::ptrdiff_t row, std::ptrdiff_t column,
                                                            const First &first, const Last &...last) {
-        if constexpr (!readsOn && canLoad<columns, First, Last...>()) {
+        if constexpr (!readsOn && multipliesRows<columns, First, Last...>()) {
             return First::template turn<columns>(
                 productsOf<4>(first.template load<columns>(row, column), last.template load<columns>(row, column)...));
         } else {
@@ -385,8 +388,9 @@ private:
         }
     }
 
+    // A single vector has no form that whole vectors are loaded in.
     template <int columns, class First, class... Last>
-    static consteval bool canLoad() {
+    static consteval bool multipliesRows() {
         if constexpr (sources == 2 && requires { First::template isWhole<columns>; }) {
             return (std::is_same_v<First, Last> && ...) || !First::template isWhole<columns>;
         }
@@ -404,10 +408,10 @@ private:
     }
 
     template <int from, int to>
-    [[gnu::always_inline]] static void add(Group<T> &sum, const GroupColumns<T> &products) {
+    [[gnu::always_inline]] static void add(Group<T> &sum, const GroupColumns<T> &terms) {
 #pragma GCC unroll 4
         for (int i = from; i < to; ++i) {
-            sum = sum + products[i];
+            sum = sum + terms[i];
         }
     }
 };

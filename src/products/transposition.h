@@ -135,6 +135,7 @@ private:
     }
 
     [[gnu::always_inline]] static void block(const Pair &pair, std::ptrdiff_t row, std::ptrdiff_t column) {
+        // The rows of the source are the columns of the destination.
         const auto [columns] = TouchingColumns<T, 1>(pair.from(row, column), pair.srcStep, 0).template next<4>();
         T *const to = pair.to(column, row);
 #pragma GCC unroll 4

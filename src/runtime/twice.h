@@ -37,6 +37,7 @@ struct NumberOf<Twice<L>> {
 // One, two or four groups.
 template <class L, int groups>
 struct SideBySideOf {
+    static_assert(groups % 2 == 0);
     using Number = Twice<typename SideBySideOf<L, groups / 2>::Number>;
 };
 template <class L>
@@ -99,7 +100,7 @@ inline bool all(TwiceMask<M> mask) {
     return all(both(mask.low, mask.high));
 }
 
-// Elements of V, a group or two of them, from those of one group after the other: load(group, elements).
+// Elements of V, a group or two of them but no more, from those of one group after the other: load(group, elements).
 template <int count, class L, class Load>
 [[gnu::always_inline]] inline void loadInGroups(L *to, const Load &load) {
     load(0, to);

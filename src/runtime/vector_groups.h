@@ -50,7 +50,7 @@ inline Group<double> shuffled(Group<double> a, Group<double> b) {
     return {_mm256_shuffle_pd(a.vector, b.vector, ofHalf | ofHalf << 2)};
 }
 
-// A half of a (0, 1) or of b (2, 3), and another one.
+// A half of a (0, 1) or of b (2, 3), and another one. Where both stay in their places, nothing has to cross.
 template <int low, int high>
 inline Group<float> halves(Group<float> a, Group<float> b) {
     if constexpr (low == 0 && high == 3) {

@@ -77,7 +77,8 @@ Report checkFloatingPointEnvironment(const Export &item) {
     const Model &model = item.model;
     std::vector<ParallelCase> cases;
     for (const Shape &shape : model.axes->small) {
-        cases.push_back({shape, model.hasCount ? 9 : 1});
+        // Several registers of lanes at a time, and what is left.
+        cases.push_back({shape, model.hasCount ? 37 : 1});
     }
     if (model.parallel) {
         cases.push_back({firstParallelShape(model, 10, true), 10});

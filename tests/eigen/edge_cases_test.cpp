@@ -140,7 +140,8 @@ constexpr int arrayCounts[] = {13, 19, 37, 45, 61};
 // One object of an array fails, at every place of a group of lanes and behind the last group; all others are what they
 // are by themselves.
 template <class T>
-void failAtEveryPlace(int count, bool wantsVectors, const std::vector<T> &failing, int order, LxpStatus expected) {
+void failSymmetricAtEveryPlace(int count, bool wantsVectors, const std::vector<T> &failing, int order,
+                               LxpStatus expected) {
     const int area = order * order;
     std::vector<T> matrices(count * area);
     for (std::size_t i = 0; i < matrices.size(); ++i) {
@@ -185,11 +186,11 @@ TYPED_TEST(SymmetricEdges, AFailingObjectDoesNotDisturbTheOthers) {
     using T = TypeParam;
     const T x = nan<T>;
     for (const int count : arrayCounts) {
-        failAtEveryPlace<T>(count, false, {1, 1, 1, 1}, 2, lxpStatusSingularErr);
+        failSymmetricAtEveryPlace<T>(count, false, {1, 1, 1, 1}, 2, lxpStatusSingularErr);
         for (const bool wantsVectors : {false, true}) {
-            failAtEveryPlace<T>(count, wantsVectors, {1, 0, 0, 0, 0, 0, 0, 0, 2}, 3, lxpStatusSingularErr);
-            failAtEveryPlace<T>(count, wantsVectors, {1, x, 1, x, 1, 1, 1, 1, 1}, 3, lxpStatusConvergeErr);
-            failAtEveryPlace<T>(count, wantsVectors, std::vector<T>(49, x), 7, lxpStatusConvergeErr);
+            failSymmetricAtEveryPlace<T>(count, wantsVectors, {1, 0, 0, 0, 0, 0, 0, 0, 2}, 3, lxpStatusSingularErr);
+            failSymmetricAtEveryPlace<T>(count, wantsVectors, {1, x, 1, x, 1, 1, 1, 1, 1}, 3, lxpStatusConvergeErr);
+            failSymmetricAtEveryPlace<T>(count, wantsVectors, std::vector<T>(49, x), 7, lxpStatusConvergeErr);
         }
     }
 }
@@ -200,17 +201,20 @@ TYPED_TEST(SymmetricEdges, TheFirstFailureOfAnArrayIsReturned) {
     const std::vector<T> diverges = {1, x, 1, x, 1, 1, 1, 1, 1};
     setThreadCount(1);
     for (const bool singularFirst : {false, true}) {
-        std::vector<T> source(17 * 9); // zeros: singular
-        for (int object = 0; object < 17; ++object) {
+        constexpr int count = 37;
+        const int early = 6;
+        const int late = 34; // in another group
+        std::vector<T> source(count * 9);
+        for (int object = 0; object < count; ++object) {
             for (int i = 0; i < 3; ++i) {
                 source[object * 9 + 4 * i] = 2;
             }
         }
-        std::copy(diverges.begin(), diverges.end(), source.begin() + 9 * (singularFirst ? 6 : 2));
-        source[9 * (singularFirst ? 2 : 6)] = 0;
+        std::copy(diverges.begin(), diverges.end(), source.begin() + 9 * (singularFirst ? late : early));
+        source[9 * (singularFirst ? early : late)] = 0;
         std::vector<T> buffer(9);
-        std::vector<T> values(17 * 3);
-        EXPECT_EQ(callSymmetric(source.data(), buffer.data(), values.data(), 3, 17),
+        std::vector<T> values(count * 3);
+        EXPECT_EQ(callSymmetric(source.data(), buffer.data(), values.data(), 3, count),
                   singularFirst ? lxpStatusSingularErr : lxpStatusConvergeErr);
     }
 }
@@ -329,7 +333,7 @@ TYPED_TEST(GeneralEdges, AnExhaustedBudgetLeavesWhatWasFound) {
 
 // One object fails, at every place; all others are what they are by themselves.
 template <class T>
-void failAtEveryPlace(int count, int order) {
+void failGeneralAtEveryPlace(int count, int order) {
     const int area = order * order;
     std::vector<T> buffer(order * (order + 5));
     for (int place = 0; place < count; ++place) {
@@ -352,6 +356,24 @@ void failAtEveryPlace(int count, int order) {
         EXPECT_EQ(re, re1);
         EXPECT_EQ(im, im1);
         EXPECT_EQ(re[place * order], untouched);
+
+        // With vectors, the others are what they are where none fails.
+        std::vector<T> sound = source;
+        std::copy_n(source.begin() + (place + 1) % count * area, area, sound.begin() + place * area);
+        GeneralResult<T> expected = callGeneral(sound, order, count);
+        GeneralResult<T> result = callGeneral(source, order, count, lxpStatusConvergeErr);
+        for (GeneralResult<T> *each : {&expected, &result}) {
+            for (std::vector<T> *values : {&each->re, &each->im}) {
+                std::fill_n(values->begin() + place * order, order, T(0));
+            }
+            for (std::vector<T> *vectors : {&each->right, &each->left}) {
+                std::fill_n(vectors->begin() + place * area, area, T(0));
+            }
+        }
+        EXPECT_EQ(result.re, expected.re);
+        EXPECT_EQ(result.im, expected.im);
+        EXPECT_EQ(result.right, expected.right);
+        EXPECT_EQ(result.left, expected.left);
     }
 }
 
@@ -360,7 +382,7 @@ TYPED_TEST(GeneralEdges, AFailingObjectDoesNotDisturbTheOthers) {
     setThreadCount(1);
     for (const int count : arrayCounts) {
         for (const int order : {3, 5, 8}) {
-            failAtEveryPlace<T>(count, order);
+            failGeneralAtEveryPlace<T>(count, order);
         }
     }
 }

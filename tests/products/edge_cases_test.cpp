@@ -12,6 +12,7 @@
 #include <cmath>
 #include <limits>
 #include <numeric>
+#include <sys/mman.h>
 #include <vector>
 
 namespace lxpm::test {
@@ -180,6 +181,60 @@ TEST(Products, OfTheLeastSizesAreErrors) {
               lxpStatusSizeErr);
     EXPECT_EQ(lxpmMul_mv_32f(matrix, 16, 4, least, least, matrix, 4, least, matrix, 4), lxpStatusSizeErr);
     EXPECT_EQ(lxpmAdd_mm_32f(matrix, 16, 4, matrix, 16, 4, matrix, 16, 4, least, least), lxpStatusSizeErr);
+}
+
+/// Single-precision objects far apart, each at the end of a page behind which there is nothing.
+class FarApart {
+public:
+    static constexpr int count = 9; // a register of lanes, and one that follows
+    static constexpr int stride = 3 * 4096;
+
+    explicit FarApart(int elements) : offset_(page - elements * static_cast<int>(sizeof(float))) {
+        memory_ = static_cast<char *>(
+            mmap(nullptr, count * stride, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
+        for (int object = 0; object < count; ++object) {
+            mprotect(memory_ + object * stride, page, PROT_READ | PROT_WRITE);
+            for (int i = 0; i < elements; ++i) {
+                reinterpret_cast<float *>(memory_ + object * stride + offset_)[i] = float(object + i + 1);
+            }
+        }
+    }
+    ~FarApart() { munmap(memory_, count * stride); }
+    FarApart(const FarApart &) = delete;
+    FarApart &operator=(const FarApart &) = delete;
+
+    float *first() const { return reinterpret_cast<float *>(memory_ + offset_); }
+
+private:
+    static constexpr int page = 4096;
+
+    char *memory_;
+    int offset_;
+};
+
+TEST(Reductions, NothingIsReadBetweenVectorsThatStandFarApart) {
+    constexpr int count = FarApart::count;
+    constexpr int stride = FarApart::stride;
+    const FarApart vectors(3);
+    const FarApart others(3);
+    std::vector<float> dst(3 * count);
+    EXPECT_EQ(lxpmDotProduct_vava_32f(vectors.first(), stride, 4, others.first(), stride, 4, dst.data(), 3, count),
+              lxpStatusOk);
+    EXPECT_EQ(dst[1], 4 + 9 + 16);
+    EXPECT_EQ(lxpmL2Norm_va_32f(vectors.first(), stride, 4, dst.data(), 3, count), lxpStatusOk);
+    EXPECT_EQ(dst[1], std::sqrt(29.0f));
+    EXPECT_EQ(
+        lxpmCrossProduct_vava_32f(vectors.first(), stride, 4, others.first(), stride, 4, dst.data(), 12, 4, count),
+        lxpStatusOk);
+    EXPECT_EQ(dst, std::vector<float>(3 * count));
+}
+
+TEST(Reductions, NothingIsReadBetweenMatricesThatStandFarApart) {
+    const FarApart matrices(6);
+    std::vector<float> dst(FarApart::count);
+    EXPECT_EQ(lxpmFrobNorm_ma_32f(matrices.first(), FarApart::stride, 12, 4, 3, 2, dst.data(), FarApart::count),
+              lxpStatusOk);
+    EXPECT_EQ(dst[0], std::sqrt(91.0f));
 }
 
 } // namespace
