@@ -174,6 +174,10 @@ inline Lanes<float, 8> bothHalves(const float *from) {
     return {_mm256_broadcast_ps(reinterpret_cast<const __m128 *>(from))};
 }
 
+inline Lanes<double, 4> bothHalves(const double *from) {
+    return {_mm256_broadcast_pd(reinterpret_cast<const __m128d *>(from))};
+}
+
 inline Lanes<float, 4> lowHalf(Lanes<float, 8> lanes) {
     return {_mm256_castps256_ps128(lanes.vector)};
 }

@@ -10,6 +10,7 @@
 #include "runtime/nest.h"
 #include "runtime/one_object.h"
 #include "runtime/parallel.h"
+#include "runtime/spreading.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -189,6 +190,11 @@ void mapObjects(const F &f, const Extents &extents, const MapOperands<T, sources
         mapScattered(f, nest);
     } else if (const std::size_t tiled = Tiling<T, sources>::sourceOf(nest); tiled != Tiling<T, sources>::none) {
         Tiling<T, sources>::map(f, nest, tiled);
+    } else if (Spreading<T, F, sources>::accepts(nest)) {
+        const std::ptrdiff_t done = Spreading<T, F, sources>::map(f, nest);
+        nest.advance(1, done);
+        nest.extent[1] -= done;
+        Loops<T, F, sources>::choose(nest)(f, nest);
     } else {
         Loops<T, F, sources>::choose(nest)(f, nest);
     }

@@ -122,6 +122,38 @@ template <class T>
     detail::halves<1, 3>(second, third).store(to + 2 * groupSize<T>);
 }
 
+// Each of a group of elements as many times as there are registers.
+template <int times>
+[[gnu::always_inline]] inline std::array<Group<float>, times> repeated(const float *from) {
+    const Group<float> low = bothHalves(from);
+    const Group<float> high = bothHalves(from + 4);
+    const auto chosen = [](Group<float> x, __m256i lanes) {
+        return Group<float>{_mm256_permutevar_ps(x.vector, lanes)};
+    };
+    if constexpr (times == 3) {
+        return {chosen(low, _mm256_setr_epi32(0, 0, 0, 1, 1, 1, 2, 2)),
+                chosen(Group<float>::load(from), _mm256_setr_epi32(2, 3, 3, 3, 0, 0, 0, 1)),
+                chosen(high, _mm256_setr_epi32(1, 1, 2, 2, 2, 3, 3, 3))};
+    } else {
+        static_assert(times == 4);
+        const __m256i even = _mm256_setr_epi32(0, 0, 0, 0, 1, 1, 1, 1);
+        const __m256i odd = _mm256_setr_epi32(2, 2, 2, 2, 3, 3, 3, 3);
+        return {chosen(low, even), chosen(low, odd), chosen(high, even), chosen(high, odd)};
+    }
+}
+
+template <int times>
+[[gnu::always_inline]] inline std::array<Group<double>, times> repeated(const double *from) {
+    if constexpr (times == 3) {
+        return {Group<double>{_mm256_permute_pd(bothHalves(from).vector, 0b1000)},
+                {_mm256_permute_pd(Group<double>::load(from).vector, 0b0011)},
+                {_mm256_permute_pd(bothHalves(from + 2).vector, 0b1110)}};
+    } else {
+        static_assert(times == 4);
+        return {broadcast(from), broadcast(from + 1), broadcast(from + 2), broadcast(from + 3)};
+    }
+}
+
 // Eight vectors in lanes.
 template <int K, Spacing spacing>
 [[gnu::always_inline]] inline Vectors<K> readVectors(const float *from, std::ptrdiff_t stride) {
