@@ -5,10 +5,8 @@
 // Groups: as many objects of an array as a register has lanes, one object in each lane. A reader brings columns of
 // their elements into registers. How it does so depends on how the elements stand in memory:
 //
-//   Rows      the elements of a row touch: four of each object are loaded at once and turned in registers, whole
-//   vectors
-//             of three that follow one another three registers at a time (PointedRows: through a pointer to each
-//             object)
+//   Rows      the elements of a row touch: four of each object are loaded at once and turned in registers; vectors of
+//             three that follow one another fill three registers (PointedRows: through a pointer to each object)
 //   Objects   the same element of successive objects touches: a column is one load
 //   Same      a single vector that is used with every object of the array, as a dense copy (SingleVector)
 //   Apart     anything else: one by one

@@ -3,8 +3,8 @@
 #pragma once
 
 // Vectors of three or four elements that follow one another, with a constant for each of them. One vector is too short
-// for a register, so a group of them goes in as many registers as it has elements, and each of a group of constants is
-// put beside the elements of its vector.
+// for a register, so a group of them goes in as many registers as a vector has elements, and each of a group of
+// constants is put beside the elements of its vector.
 
 #include "runtime/lanes.h"
 #include "runtime/nest.h"

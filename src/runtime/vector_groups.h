@@ -4,7 +4,7 @@
 
 // Groups of vectors, each in a lane of its own: one register for each element. Vectors of three elements that follow
 // one another, of both types; and eight vectors of 2 to 4 single-precision elements that may be any number of bytes
-// apart.
+// apart. Constants that stand beside such vectors are repeated for each of their elements.
 
 #include "runtime/addresses.h"
 #include "runtime/lanes.h"

@@ -190,12 +190,12 @@ public:
     static constexpr int stride = 3 * 4096;
 
     explicit FarApart(int elements) : offset_(page - elements * static_cast<int>(sizeof(float))) {
-        memory_ = static_cast<char *>(
-            mmap(nullptr, count * stride, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
+        EXPECT_NE(memory_, MAP_FAILED);
         for (int object = 0; object < count; ++object) {
-            mprotect(memory_ + object * stride, page, PROT_READ | PROT_WRITE);
+            char *const start = memory_ + object * stride;
+            EXPECT_EQ(mprotect(start, page, PROT_READ | PROT_WRITE), 0);
             for (int i = 0; i < elements; ++i) {
-                reinterpret_cast<float *>(memory_ + object * stride + offset_)[i] = float(object + i + 1);
+                reinterpret_cast<float *>(start + offset_)[i] = float(object + i + 1);
             }
         }
     }
@@ -208,7 +208,8 @@ public:
 private:
     static constexpr int page = 4096;
 
-    char *memory_;
+    char *memory_ = static_cast<char *>(
+        mmap(nullptr, count *stride, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
     int offset_;
 };
 
@@ -230,11 +231,11 @@ TEST(Reductions, NothingIsReadBetweenVectorsThatStandFarApart) {
 }
 
 TEST(Reductions, NothingIsReadBetweenMatricesThatStandFarApart) {
-    const FarApart matrices(6);
+    const FarApart matrices(7); // two rows of three, an element apart
     std::vector<float> dst(FarApart::count);
-    EXPECT_EQ(lxpmFrobNorm_ma_32f(matrices.first(), FarApart::stride, 12, 4, 3, 2, dst.data(), FarApart::count),
+    EXPECT_EQ(lxpmFrobNorm_ma_32f(matrices.first(), FarApart::stride, 16, 4, 3, 2, dst.data(), FarApart::count),
               lxpStatusOk);
-    EXPECT_EQ(dst[0], std::sqrt(91.0f));
+    EXPECT_EQ(dst[0], std::sqrt(124.0f));
 }
 
 } // namespace
