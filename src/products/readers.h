@@ -43,7 +43,6 @@ inline Reading readingOf(const Addresses<const T> &source) {
 // page that might not be there stands between them.
 template <class T>
 inline bool mayReadOn(const Addresses<const T> &source) {
-    constexpr std::ptrdiff_t smallestPage = 4096;
     return source.pointerStep[0] == 0 && source.step[0] <= smallestPage;
 }
 

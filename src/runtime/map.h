@@ -53,14 +53,14 @@ public:
         const std::ptrdiff_t n = nest.extent[2];
         const std::ptrdiff_t objects = nest.extent[1];
         if (objects < enough || n > largestObject || nest.extent[0] != 1 || nest.operand.movesThroughPointers(1) ||
-            !touches(nest.operand.dst, n)) {
+            !runsTouch(nest.operand.dst, n)) {
             return none;
         }
         std::size_t single = none;
         for (std::size_t s = 0; s < sources; ++s) {
             const auto &source = nest.operand.src[s];
             const bool isConstant = source.step[2] == 0 && source.step[1] == 0;
-            if (touches(source, n) || isConstant) {
+            if (runsTouch(source, n) || isConstant) {
                 continue;
             }
             if (single != none || source.step[2] != sizeof(T) || source.step[1] != 0) {
@@ -114,14 +114,9 @@ private:
     static bool othersTouch(const Nest<T, sources> &nest, std::size_t tiled) {
         bool all = true;
         for (std::size_t s = 0; s < sources; ++s) {
-            all &= s == tiled || touches(nest.operand.src[s], nest.extent[2]);
+            all &= s == tiled || runsTouch(nest.operand.src[s], nest.extent[2]);
         }
         return all;
-    }
-
-    template <class E>
-    static bool touches(const Addresses<E> &operand, std::ptrdiff_t n) {
-        return operand.step[2] == sizeof(T) && operand.step[1] == n * operand.step[2];
     }
 
     static std::ptrdiff_t longTile(std::ptrdiff_t n, std::ptrdiff_t fewestObjects) {
@@ -191,10 +186,7 @@ void mapObjects(const F &f, const Extents &extents, const MapOperands<T, sources
     } else if (const std::size_t tiled = Tiling<T, sources>::sourceOf(nest); tiled != Tiling<T, sources>::none) {
         Tiling<T, sources>::map(f, nest, tiled);
     } else if (Spreading<T, F, sources>::accepts(nest)) {
-        const std::ptrdiff_t done = Spreading<T, F, sources>::map(f, nest);
-        nest.advance(1, done);
-        nest.extent[1] -= done;
-        Loops<T, F, sources>::choose(nest)(f, nest);
+        Spreading<T, F, sources>::map(f, nest);
     } else {
         Loops<T, F, sources>::choose(nest)(f, nest);
     }

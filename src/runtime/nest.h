@@ -47,6 +47,12 @@ struct MapOperands {
     }
 };
 
+// Whether runs of n elements that touch, in the innermost loop, follow one another in the middle one.
+template <class Element>
+inline bool runsTouch(const Addresses<Element> &operand, std::ptrdiff_t n) {
+    return operand.step[2] == sizeof(Element) && operand.step[1] == n * operand.step[2];
+}
+
 // Three loops, the outermost first, and the operands with their steps in the same order. When arranged, the innermost
 // loop moves by bytes alone if any does; loops that a call does not need take one step and stand outside.
 template <class T, std::size_t sources>

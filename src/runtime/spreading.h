@@ -7,6 +7,7 @@
 // constants is put beside the elements of its vector.
 
 #include "runtime/lanes.h"
+#include "runtime/loops.h"
 #include "runtime/nest.h"
 #include "runtime/vector_groups.h"
 
@@ -22,27 +23,27 @@ public:
     using Nest = lxpm::Nest<T, sources>;
 
     static bool accepts(const Nest &nest) {
-        bool isAnyConstant = false;
         const std::ptrdiff_t length = nest.extent[2];
-        const auto isDense = [length](const auto &operand) {
-            return operand.step[2] == sizeof(T) && operand.step[1] == length * operand.step[2];
-        };
-        bool isAnyElse = !isDense(nest.operand.dst);
+        bool isAnyConstant = false;
+        bool isAnyElse = !runsTouch(nest.operand.dst, length);
         for (const auto &source : nest.operand.src) {
             isAnyConstant |= isConstants(source);
-            isAnyElse |= !isConstants(source) && !isDense(source);
+            isAnyElse |= !isConstants(source) && !runsTouch(source, length);
         }
         return isAnyConstant && !isAnyElse && nest.extent[0] == 1 && nest.extent[1] >= groupSize<T> &&
                (length == 3 || length == 4) && !nest.operand.movesThroughPointers(1) &&
                !nest.operand.movesThroughPointers(2);
     }
 
-    // All whole groups. Returns how many vectors they have.
-    static std::ptrdiff_t map(const F &f, const Nest &nest) {
-        return (nest.extent[2] == 3 ? choose<3>(nest) : choose<4>(nest))(f, nest);
+    static void map(const F &f, Nest nest) {
+        const std::ptrdiff_t done = (nest.extent[2] == 3 ? choose<3>(nest) : choose<4>(nest))(f, nest);
+        nest.advance(1, done);
+        nest.extent[1] -= done;
+        Loops<T, F, sources>::choose(nest)(f, nest);
     }
 
 private:
+    // Goes over all whole groups. Returns how many vectors they have.
     using Loop = std::ptrdiff_t (*)(const F &, const Nest &);
 
     static bool isConstants(const Addresses<const T> &source) {

@@ -17,6 +17,9 @@ namespace lxpm {
 template <int K>
 using Vectors = std::array<Group<float>, K>;
 
+// Of memory that is there or is not: between two objects no further apart there is no hole.
+inline constexpr std::ptrdiff_t smallestPage = 4096;
+
 // How vectors stand in memory, as far as it matters to the way they are read and written. A vector of three elements is
 // read as four where nothing but the space between two vectors is read with it: if there is another vector close
 // behind, that space is as good as the vectors themselves.
@@ -24,7 +27,6 @@ enum class Spacing { Packed, Wide, Any };
 
 template <int K>
 constexpr Spacing spacingOf(std::ptrdiff_t stride) {
-    constexpr std::ptrdiff_t smallestPage = 4096;
     if (stride == 4 * K) {
         return Spacing::Packed;
     }
