@@ -56,6 +56,7 @@ GroupOperand<Element>::GroupOperand(const Addresses<Element> &operand, int heigh
                                                                               : Access::OneByOne;
     isDense = access == Access::RowsTouch && (rows == 1 || addresses.step[1] == columns * size);
     isPlain = isDense && (addresses.pointers == nullptr || addresses.pointerStep == Steps{1, 0, 0});
+    objectsTouch = isDense && addresses.pointers == nullptr && addresses.step[0] == rows * columns * size;
 }
 
 template struct GroupOperand<const float>;

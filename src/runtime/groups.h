@@ -39,6 +39,9 @@ namespace detail {
 
 enum class Access { RowsTouch, ColumnsTouch, ObjectsTouch, OneByOne };
 
+// Of objects without gaps: whether the next one follows without a gap, too, so that all are a known distance apart.
+enum class Objects { Touch, Anywhere };
+
 // An operand, its element pointers replaced by steps in bytes where they are as regular as those.
 template <class Element>
 struct GroupOperand {
@@ -48,8 +51,9 @@ struct GroupOperand {
     Access access;
     int rows;
     int columns;
-    bool isDense; // the elements of an object stand in one row
-    bool isPlain; // and a pointer leads to all objects or to each
+    bool isDense;      // the elements of an object stand in one row
+    bool isPlain;      // and a pointer leads to all objects or to each
+    bool objectsTouch; // and there is nothing between two objects
 };
 
 extern template struct GroupOperand<const float>;
@@ -80,7 +84,8 @@ template <class T>
     }
 }
 
-// K elements of each object.
+// K elements of each object, register by register: a copy of memory goes by halves of a register, and what reads whole
+// ones would have to wait for it.
 template <int K, class T>
 [[gnu::always_inline]] inline void loadSome(const Pointers<const T> &from, int first, Group<T> *to) {
     std::array<Group<T>, 4> rows;
@@ -95,19 +100,14 @@ template <int K, class T>
         }
     }
     turn<T>(rows);
-#pragma GCC unroll 4
-    for (int i = 0; i < K; ++i) {
-        to[first + i] = rows[i];
-    }
+    forEachOf<K>([&](auto i) __attribute__((always_inline)) { to[first + i].vector = rows[i].vector; });
 }
 
 template <int K, class T>
 [[gnu::always_inline]] inline void storeSome(const Group<T> *from, int first, const Pointers<T> &to) {
     std::array<Group<T>, 4> rows;
-#pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) {
-        rows[i] = from[first + std::min(i, K - 1)];
-    }
+    forEachOf<4>([&](auto i)
+                     __attribute__((always_inline)) { rows[i].vector = from[first + std::min<int>(i, K - 1)].vector; });
     turn<T>(rows);
 #pragma GCC unroll 4
     for (int i = 0; i < 4; ++i) {
@@ -120,12 +120,14 @@ template <int K, class T>
     }
 }
 
-// Objects without gaps, of sizes known beforehand.
-
-template <class Element>
+template <Objects objects, int size, class Element>
 [[gnu::always_inline]] inline Pointers<Element> pointersTo(const GroupOperand<Element> &operand,
                                                            std::ptrdiff_t object) {
     const Addresses<Element> &a = operand.addresses;
+    if constexpr (objects == Objects::Touch) {
+        Element *const first = shifted(a.base, a.offset) + object * size;
+        return inLanes<Element>([=](std::ptrdiff_t lane) { return first + lane * size; });
+    }
     if (a.pointers != nullptr) {
         return inLanes<Element>([&](std::ptrdiff_t lane) { return shifted(a.pointers[object + lane], a.offset); });
     }
@@ -166,39 +168,121 @@ template <int Rows, int Columns, class Element>
         [&](std::ptrdiff_t lane) { return objects[lane] + std::ptrdiff_t(rowOf[lane * Rows + row]) * Columns; });
 }
 
+// Known numbers of elements go by way of memory, so that they themselves can stay in registers.
+template <Part part, int Rows, int Columns, class T>
+[[gnu::always_inline]] inline void copyElements(const Group<T> *from, Group<T> *to) {
+    forEachOf<Rows * Columns>([&](auto element) __attribute__((always_inline)) {
+        if constexpr (element % Columns < lengthOf(part, element / Columns, Columns)) {
+            to[element].vector = from[element].vector;
+        }
+    });
+}
+
+template <int Rows, int Columns, Part part = Part::Whole, class T, class Load>
+[[gnu::always_inline]] inline void through(Group<T> *to, const Load &load) {
+    if constexpr (Rows == 0) {
+        load(to);
+    } else {
+        Group<T> elements[Rows * Columns];
+        load(elements);
+        copyElements<part, Rows, Columns>(elements, to);
+    }
+}
+
+template <int Rows, int Columns, Part part = Part::Whole, class T, class Store>
+[[gnu::always_inline]] inline void through(const Group<T> *from, const Store &store) {
+    if constexpr (Rows == 0) {
+        store(from);
+    } else {
+        Group<T> elements[Rows * Columns];
+        copyElements<part, Rows, Columns>(from, elements);
+        store(elements);
+    }
+}
+
 } // namespace detail
 
-// Objects without gaps, of a known number of rows and columns.
+// How operands are read and written, object after object from `object` on, row by row.
+//
+//   Rows, Columns   the sizes where they are known beforehand, else 0
+//   rowOf           row i of lane l is row rowOf[l * rows + i] of its object
+//
+// Of a lower triangle, what stands above the diagonal of a known order is read where it is memory of the object.
 
-template <class T>
+// Objects without gaps, of known sizes.
+
+template <class T, detail::Objects objects>
 class PlainGroupSource {
 public:
     explicit PlainGroupSource(const detail::GroupOperand<const T> &operand) : from(operand) {}
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to) const {
-        detail::loadLength<Rows * Columns, T>(detail::pointersTo(from, object), to);
+        detail::loadLength<Rows * Columns, T>(detail::pointersTo<objects, Rows * Columns>(from, object), to);
+    }
+
+    template <int Rows, int Columns>
+    [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
+        const auto places = detail::pointersTo<objects, Rows * Columns>(from, object);
+#pragma GCC unroll 8
+        for (int i = 0; i < Rows; ++i) {
+            detail::loadLength<Columns, T>(detail::rowsOfObjects<Rows, Columns>(places, rowOf, i), to + i * Columns);
+        }
+    }
+
+    template <int Order>
+    [[gnu::always_inline]] void loadLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
+        load<Order, Order>(object, to);
     }
 
 private:
     const detail::GroupOperand<const T> &from;
 };
 
-template <class T>
+template <class T, detail::Objects objects>
 class PlainGroupDestination {
 public:
     explicit PlainGroupDestination(const detail::GroupOperand<T> &operand) : to(operand) {}
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from) const {
-        detail::storeLength<Rows * Columns, T>(from, detail::pointersTo(to, object));
+        detail::storeLength<Rows * Columns, T>(from, detail::pointersTo<objects, Rows * Columns>(to, object));
+    }
+
+    template <int Rows, int Columns>
+    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
+        const auto places = detail::pointersTo<objects, Rows * Columns>(to, object);
+#pragma GCC unroll 8
+        for (int i = 0; i < Rows; ++i) {
+            detail::storeLength<Columns, T>(from + i * Columns, detail::rowsOfObjects<Rows, Columns>(places, rowOf, i));
+        }
+    }
+
+    template <int Order>
+    [[gnu::always_inline]] void storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
+        storeRows(from, detail::pointersTo<objects, Order * Order>(to, object),
+                  std::make_integer_sequence<int, Order>());
     }
 
 private:
+    template <int... row>
+    [[gnu::always_inline]] static void storeRows(const Group<T> *from, const detail::Pointers<T> &places,
+                                                 std::integer_sequence<int, row...>) {
+        constexpr int order = sizeof...(row);
+        const auto rowOfObjects = [&](int i) __attribute__((always_inline)) {
+            detail::Pointers<T> pointers = places;
+            for (T *&pointer : pointers) {
+                pointer += i * order;
+            }
+            return pointers;
+        };
+        (detail::storeLength<row + 1, T>(from + row * order, rowOfObjects(row)), ...);
+    }
+
     const detail::GroupOperand<T> &to;
 };
 
-// Rows, Columns: the sizes where they are known beforehand, else 0.
+// Any objects.
 
 template <class T>
 class GroupSource {
@@ -207,66 +291,30 @@ public:
     GroupSource(const Addresses<const T> &operand, int rows, int columns) : from(operand, rows, columns) {}
 
     bool isPlain() const { return from.isPlain; }
-    PlainGroupSource<T> plain() const { return PlainGroupSource<T>(from); }
+    bool objectsTouch() const { return from.objectsTouch; }
+    template <detail::Objects objects>
+    PlainGroupSource<T, objects> plain() const {
+        return PlainGroupSource<T, objects>(from);
+    }
 
-    // The objects from `object` on, row by row. RowOf: row i of lane l is row rowOf[l * rows + i] of its object.
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to) const {
-        if constexpr (Rows == 0) {
-            loadAny<0, 0>(object, to);
-        } else if (from.isPlain) {
-            plain().template load<Rows, Columns>(object, to);
-        } else {
-            through<Rows, Columns>(to, [&](Group<T> *elements) { loadAny<Rows, Columns>(object, elements); });
-        }
+        detail::through<Rows, Columns>(to, [&](Group<T> *elements) { loadAny<Rows, Columns>(object, elements); });
     }
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
-        if constexpr (Rows == 0) {
-            loadAny<0, 0>(object, to, rowOf);
-        } else if (from.isPlain) {
-            const auto objects = detail::pointersTo(from, object);
-#pragma GCC unroll 8
-            for (int i = 0; i < Rows; ++i) {
-                detail::loadLength<Columns, T>(detail::rowsOfObjects<Rows, Columns>(objects, rowOf, i),
-                                               to + i * Columns);
-            }
-        } else {
-            through<Rows, Columns>(to, [&](Group<T> *elements) { loadAny<Rows, Columns>(object, elements, rowOf); });
-        }
+        detail::through<Rows, Columns>(
+            to, [&](Group<T> *elements) { loadAny<Rows, Rows != 0 ? Columns : 0>(object, elements, rowOf); });
     }
 
-    // What stands above the diagonal of a known order comes along where it is memory of the object.
     template <int Order>
     [[gnu::always_inline]] void loadLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
-        if constexpr (Order == 0) {
-            loadAnyLowerTriangle<0>(object, to);
-        } else if (from.isPlain) {
-            detail::loadLength<Order * Order, T>(detail::pointersTo(from, object), to);
-        } else {
-            through<Order, Order, Part::LowerTriangle>(
-                to, [&](Group<T> *elements) { loadAnyLowerTriangle<Order>(object, elements); });
-        }
+        detail::through<Order, Order, Part::LowerTriangle>(
+            to, [&](Group<T> *elements) { loadAnyLowerTriangle<Order>(object, elements); });
     }
 
 private:
-    // By way of memory, so that the elements themselves can stay in registers.
-    template <int Rows, int Columns, Part part = Part::Whole, class Load>
-    [[gnu::always_inline]] static void through(Group<T> *to, const Load &loadElements) {
-        Group<T> elements[Rows * Columns];
-        loadElements(elements);
-#pragma GCC unroll 8
-        for (int i = 0; i < Rows; ++i) {
-#pragma GCC unroll 8
-            for (int j = 0; j < Columns; ++j) {
-                if (j < lengthOf(part, i, Columns)) {
-                    to[i * Columns + j] = elements[i * Columns + j];
-                }
-            }
-        }
-    }
-
     template <int Rows, int Columns>
     void loadAny(std::ptrdiff_t object, Group<T> *to) const;
     template <int Rows, int Columns>
@@ -283,71 +331,31 @@ public:
     GroupDestination(const Addresses<T> &operand, int rows, int columns) : to(operand, rows, columns) {}
 
     bool isPlain() const { return to.isPlain; }
-    PlainGroupDestination<T> plain() const { return PlainGroupDestination<T>(to); }
+    bool objectsTouch() const { return to.objectsTouch; }
+    template <detail::Objects objects>
+    PlainGroupDestination<T, objects> plain() const {
+        return PlainGroupDestination<T, objects>(to);
+    }
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from) const {
-        if constexpr (Rows == 0) {
-            storeAny<0, 0>(object, from);
-        } else if (to.isPlain) {
-            plain().template store<Rows, Columns>(object, from);
-        } else {
-            const auto elements = copied<Rows * Columns>(from);
-            storeAny<Rows, Columns>(object, elements.data());
-        }
+        detail::through<Rows, Columns>(from,
+                                       [&](const Group<T> *elements) { storeAny<Rows, Columns>(object, elements); });
     }
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
-        if constexpr (Rows == 0) {
-            storeAny<0, 0>(object, from, rowOf);
-        } else if (to.isPlain) {
-            const auto objects = detail::pointersTo(to, object);
-#pragma GCC unroll 8
-            for (int i = 0; i < Rows; ++i) {
-                detail::storeLength<Columns, T>(from + i * Columns,
-                                                detail::rowsOfObjects<Rows, Columns>(objects, rowOf, i));
-            }
-        } else {
-            const auto elements = copied<Rows * Columns>(from);
-            storeAny<Rows, Columns>(object, elements.data(), rowOf);
-        }
+        detail::through<Rows, Columns>(
+            from, [&](const Group<T> *elements) { storeAny<Rows, Columns>(object, elements, rowOf); });
     }
 
     template <int Order>
     [[gnu::always_inline]] void storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
-        if constexpr (Order == 0) {
-            storeAnyLowerTriangle<0>(object, from);
-        } else if (to.isPlain) {
-            storeRows(from, detail::pointersTo(to, object), std::make_integer_sequence<int, Order>());
-        } else {
-            const auto elements = copied<Order * Order>(from);
-            storeAnyLowerTriangle<Order>(object, elements.data());
-        }
+        detail::through<Order, Order, Part::LowerTriangle>(
+            from, [&](const Group<T> *elements) { storeAnyLowerTriangle<Order>(object, elements); });
     }
 
 private:
-    template <int... row>
-    [[gnu::always_inline]] static void storeRows(const Group<T> *from, const detail::Pointers<T> &objects,
-                                                 std::integer_sequence<int, row...>) {
-        constexpr int order = sizeof...(row);
-        const auto rowOfObjects = [&](int i) __attribute__((always_inline)) {
-            detail::Pointers<T> pointers = objects;
-            for (T *&pointer : pointers) {
-                pointer += i * order;
-            }
-            return pointers;
-        };
-        (detail::storeLength<row + 1, T>(from + row * order, rowOfObjects(row)), ...);
-    }
-
-    template <int Elements>
-    [[gnu::always_inline]] static std::array<Group<T>, Elements> copied(const Group<T> *from) {
-        std::array<Group<T>, Elements> elements;
-        std::copy_n(from, Elements, elements.begin());
-        return elements;
-    }
-
     template <int Rows, int Columns>
     void storeAny(std::ptrdiff_t object, const Group<T> *from) const;
     template <int Rows, int Columns>
@@ -381,13 +389,18 @@ template <Permuting permuting, int Rows, int Columns, class L>
     }
 }
 
-// Calls f with the operands, of a known order (0: of none) as plain ones if all of them are. For loops that do so
-// little with an object that asking for each of them takes its time.
+// Calls f with the operands, of a known order (0: of none) as plain ones if all of them are. A kernel that serves both
+// would ask for every group, and keep its elements in memory, where those of both meet.
 template <int Order, class F, class... Operands>
 [[gnu::always_inline]] inline void withPlain(const F &f, const Operands &...operands) {
     if constexpr (Order != 0) {
+        using detail::Objects;
+        if ((operands.objectsTouch() && ...)) {
+            f(operands.template plain<Objects::Touch>()...);
+            return;
+        }
         if ((operands.isPlain() && ...)) {
-            f(operands.plain()...);
+            f(operands.template plain<Objects::Anywhere>()...);
             return;
         }
     }

@@ -15,6 +15,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <immintrin.h>
+#include <type_traits>
 #include <utility>
 
 namespace lxpm {
@@ -32,6 +33,15 @@ using Group = Lanes<T, fullLanes<T>>;
 
 template <class T>
 inline constexpr int groupSize = fullLanes<T>;
+
+// Calls f(0), f(1), ... with constants: for what a loop would make a copy of memory, or unroll too late.
+template <int count, class F>
+[[gnu::always_inline]] inline void forEachOf(const F &f) {
+    [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline)) {
+        (f(std::integral_constant<int, i>()), ...);
+    }
+    (std::make_integer_sequence<int, count>());
+}
 
 template <class T, int N>
 struct Lanes {

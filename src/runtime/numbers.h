@@ -128,6 +128,10 @@ using Mask64 = MaskOf<Lanes64>;
     inline Number only(Mask mask, Number x) {                                                                          \
         return {_mm256_and_##ps(mask.bits, x.vector)};                                                                 \
     }                                                                                                                  \
+    /* x where it is larger, y elsewhere: where one of them is NaN, too. */                                            \
+    inline Number larger(Number x, Number y) {                                                                         \
+        return {_mm256_max_##ps(x.vector, y.vector)};                                                                  \
+    }                                                                                                                  \
     inline bool any(Mask mask) {                                                                                       \
         return _mm256_movemask_##ps(mask.bits) != 0;                                                                   \
     }                                                                                                                  \

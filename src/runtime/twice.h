@@ -4,6 +4,8 @@
 
 #include "runtime/numbers.h"
 
+#include <type_traits>
+
 namespace lxpm {
 
 // An iteration, and what has a root in each row, waits for roots and quotients most of the time. Two that do not depend
@@ -100,39 +102,65 @@ inline bool all(TwiceMask<M> mask) {
     return all(both(mask.low, mask.high));
 }
 
-// Elements of V, a group or two of them but no more, from those of one group after the other: load(group, elements).
-template <int count, class L, class Load>
-[[gnu::always_inline]] inline void loadInGroups(L *to, const Load &load) {
-    load(0, to);
+namespace detail {
+
+// How many groups go side by side in a V.
+template <class V>
+inline constexpr int groupsIn = NumberOf<V>::lanes / groupSize<ElementOf<V>>;
+
+// One of them.
+template <int group, class V>
+[[gnu::always_inline]] inline auto &groupOf(V &x) {
+    if constexpr (constexpr int ofHalf = groupsIn<std::remove_const_t<V>> / 2; ofHalf == 0) {
+        return x;
+    } else if constexpr (group < ofHalf) {
+        return groupOf<group>(x.low);
+    } else {
+        return groupOf<group - ofHalf>(x.high);
+    }
 }
-template <int count, class L, class Load>
-[[gnu::always_inline]] inline void loadInGroups(Twice<L> *to, const Load &load) {
-    L low[count];
-    L high[count];
-    load(0, low);
-    load(1, high);
+
+} // namespace detail
+
+struct AsTheyStand {
+    int operator()(int i) const { return i; }
+};
+
+// `count` elements, at most `most`, from those of one group after the other, load(group, elements): to[i] are those
+// of row rowOf(i).
+template <int most, class V, class Load, class RowOf = AsTheyStand>
+[[gnu::always_inline]] inline void loadSideBySide(V *to, int count, const Load &load, const RowOf &rowOf = {}) {
+    constexpr int groups = detail::groupsIn<V>;
+    if constexpr (groups == 1 && std::is_same_v<RowOf, AsTheyStand>) {
+        load(0, to);
+    } else {
+        Group<ElementOf<V>> elements[groups][most];
+        forEachOf<groups>([&](auto group) __attribute__((always_inline)) { load(group, elements[group]); });
 #pragma GCC unroll 64
-    for (int i = 0; i < count; ++i) {
-        to[i] = {low[i], high[i]};
+        for (int i = 0; i < count; ++i) {
+            forEachOf<groups>([&](auto group) __attribute__((always_inline)) {
+                detail::groupOf<group>(to[i]).vector = elements[group][rowOf(i)].vector;
+            });
+        }
     }
 }
 
 // And back: store(group, elements).
-template <int count, class L, class Store>
-[[gnu::always_inline]] inline void storeInGroups(const L *from, const Store &store) {
-    store(0, from);
-}
-template <int count, class L, class Store>
-[[gnu::always_inline]] inline void storeInGroups(const Twice<L> *from, const Store &store) {
-    L low[count];
-    L high[count];
+template <int most, class V, class Store>
+[[gnu::always_inline]] inline void storeSideBySide(const V *from, int count, const Store &store) {
+    constexpr int groups = detail::groupsIn<V>;
+    if constexpr (groups == 1) {
+        store(0, from);
+    } else {
+        Group<ElementOf<V>> elements[groups][most];
 #pragma GCC unroll 64
-    for (int i = 0; i < count; ++i) {
-        low[i] = from[i].low;
-        high[i] = from[i].high;
+        for (int i = 0; i < count; ++i) {
+            forEachOf<groups>([&](auto group) __attribute__((always_inline)) {
+                elements[group][i].vector = detail::groupOf<group>(from[i]).vector;
+            });
+        }
+        forEachOf<groups>([&](auto group) __attribute__((always_inline)) { store(group, elements[group]); });
     }
-    store(0, low);
-    store(1, high);
 }
 
 } // namespace lxpm

@@ -16,8 +16,9 @@ namespace lxpm {
 // on in lanes, a Group<T>, and says whether all of them are well. If not, it has written nothing, and they are done
 // again one by one, so that what is written and where it stops are those of single objects.
 //
-// isWide: two groups at a time, in a Twice<Group<T>>, as long as there are two.
-template <class T, bool isWide = false, class WithGroup, class One>
+// atOnce: 1, 2 or 4 groups side by side, in a SideBySide<Group<T>, atOnce>, as long as there are as many; then half of
+// that, and so on.
+template <class T, int atOnce = 1, class WithGroup, class One>
 LxpStatus byGroups(bool fitsLanes, int first, int count, const WithGroup &withGroup, const One &one) {
     const std::ptrdiff_t end = std::ptrdiff_t(first) + count;
     std::ptrdiff_t object = first;
@@ -38,8 +39,11 @@ LxpStatus byGroups(bool fitsLanes, int first, int count, const WithGroup &withGr
         }
     };
     const auto overGroups = [&](const auto &group) {
-        if constexpr (isWide) {
-            inLanes(Twice<Group<T>>(), group);
+        if constexpr (atOnce >= 4) {
+            inLanes(SideBySide<Group<T>, 4>(), group);
+        }
+        if constexpr (atOnce >= 2) {
+            inLanes(SideBySide<Group<T>, 2>(), group);
         }
         inLanes(Group<T>(), group);
     };

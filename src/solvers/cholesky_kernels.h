@@ -12,6 +12,7 @@
 #include "solvers/by_groups.h"
 #include "solvers/cholesky.h"
 #include "solvers/matrices.h"
+#include "solvers/right_sides.h"
 
 #include <cstddef>
 #include <immintrin.h>
@@ -42,11 +43,6 @@ inline float estimate(float d) {
 
 inline Group<float> estimate(Group<float> d) {
     return {_mm256_rsqrt_ps(d.vector)};
-}
-
-template <class L>
-inline Twice<L> estimate(Twice<L> d) {
-    return {estimate(d.low), estimate(d.high)};
 }
 
 template <class V>
@@ -96,25 +92,16 @@ struct Decomposition {
     Addresses<T> destination;
 };
 
-// The objects in the lanes of V.
-template <class V, int Order, class T>
-bool decomposeLanes(const GroupSource<T> &source, const GroupDestination<T> &destination, int order,
-                    std::ptrdiff_t object) {
+template <class T, int Order, class Source, class Destination>
+bool decomposeGroup(const Source &source, const Destination &destination, int order, std::ptrdiff_t object) {
     const int n = Order != 0 ? Order : order;
-    constexpr int elements = Order != 0 ? Order * Order : largestGroup;
-    V a[elements];
-    loadInGroups<elements, Group<T>>(
-        a, [&](int group, Group<T> *to) __attribute__((always_inline)) {
-            source.template loadLowerTriangle<Order>(object + group * groupSize<T>, to);
-        });
-    const TouchingMatrix<V> matrix = {a, n};
-    if (factorize<Order, V>(matrix, matrix, n) < n) {
+    Group<T> a[Order != 0 ? Order * Order : largestGroup];
+    source.template loadLowerTriangle<Order>(object, a);
+    const TouchingMatrix<Group<T>> matrix = {a, n};
+    if (factorize<Order, Group<T>>(matrix, matrix, n) < n) {
         return false;
     }
-    storeInGroups<elements, Group<T>>(
-        a, [&](int group, const Group<T> *from) __attribute__((always_inline)) {
-            destination.template storeLowerTriangle<Order>(object + group * groupSize<T>, from);
-        });
+    destination.template storeLowerTriangle<Order>(object, a);
     return true;
 }
 
@@ -143,16 +130,18 @@ template <class T, int Order>
 LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
     const auto withGroup = [&](const auto &over) {
-        over([&, source = GroupSource<T>(call.source, n, n),
-              destination = GroupDestination<T>(call.destination, n, n)](auto lanes, std::ptrdiff_t object) {
-            return decomposeLanes<decltype(lanes), Order>(source, destination, n, object);
-        });
+        withPlain<Order>(
+            [&](const auto &source, const auto &destination) {
+                over([&](auto, std::ptrdiff_t object) {
+                    return decomposeGroup<T, Order>(source, destination, n, object);
+                });
+            },
+            GroupSource<T>(call.source, n, n), GroupDestination<T>(call.destination, n, n));
     };
     const auto one = [&](std::ptrdiff_t object) {
         return decomposeOne<T, Order>(call.source.from(object), call.destination.from(object), n);
     };
-    constexpr bool isWide = Order == 3 || Order == 4; // the elements of two larger ones do not stay in registers
-    return byGroups<T, isWide>(n <= largestCopied, first, count, withGroup, one);
+    return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
 }
 
 template <class T>
@@ -191,9 +180,9 @@ struct Substitution {
 };
 
 // Factors and right-hand sides in lanes.
-template <class T, int Order>
-void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right, const GroupDestination<T> &solution,
-                     int order, std::ptrdiff_t object) {
+template <class T, int Order, class Source, class Destination>
+void substituteGroup(const Source &factors, const Source &right, const Destination &solution, int order,
+                     std::ptrdiff_t object) {
     const int n = Order != 0 ? Order : order;
     Group<T> l[Order != 0 ? Order * Order : largestGroup];
     Group<T> x[Order != 0 ? Order : largestCopied];
@@ -202,25 +191,6 @@ void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right,
     const TouchingMatrix<Group<T>> matrix = {l, n};
     substitute<Order, Group<T>>(matrix, x, n);
     solution.template store<Order != 0, Order>(object, x);
-}
-
-// Right-hand sides in lanes, the same factor for all of them.
-template <class V, int Order, class Factor, class Right, class Solution>
-void substituteInto(const Factor &factor, const Right &right, const Solution &solution, int order,
-                    std::ptrdiff_t object) {
-    using T = ElementOf<V>;
-    const int n = Order != 0 ? Order : order;
-    constexpr int elements = Order != 0 ? Order : largestGroup;
-    V x[elements];
-    loadInGroups<elements, Group<T>>(
-        x, [&](int group, Group<T> *to) __attribute__((always_inline)) {
-            right.template load<Order != 0, Order>(object + group * groupSize<T>, to);
-        });
-    substitute<Order, V>(factor, x, n);
-    storeInGroups<elements, Group<T>>(
-        x, [&](int group, const Group<T> *from) __attribute__((always_inline)) {
-            solution.template store<Order != 0, Order>(object + group * groupSize<T>, from);
-        });
 }
 
 template <class T, int Order>
@@ -250,35 +220,31 @@ void substituteOne(const Substitution<T> &call, std::ptrdiff_t object) {
 template <class T, int Order>
 LxpStatus substituteObjects(const Substitution<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const GroupSource<T> right(call.right, 1, n);
-    const GroupDestination<T> solution(call.solution, 1, n);
     const auto one = [&](std::ptrdiff_t object) {
         substituteOne<T, Order>(call, object);
         return lxpStatusOk;
     };
     if (!call.factors.isSingle()) {
         const auto withGroup = [&](const auto &over) {
-            over([&, factors = GroupSource<T>(call.factors, n, n)](auto, std::ptrdiff_t object) {
-                substituteGroup<T, Order>(factors, right, solution, n, object);
-                return true;
-            });
+            withPlain<Order>(
+                [&](const auto &factors, const auto &right, const auto &solution) {
+                    over([&](auto, std::ptrdiff_t object) {
+                        substituteGroup<T, Order>(factors, right, solution, n, object);
+                        return true;
+                    });
+                },
+                GroupSource<T>(call.factors, n, n), GroupSource<T>(call.right, 1, n),
+                GroupDestination<T>(call.solution, 1, n));
         };
         return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
     }
     LxpStatus status = lxpStatusOk;
     T copy[Order != 0 ? Order * Order : largestGroup];
     withMatrix<Part::LowerTriangle>(call.factors, n, n, copy, [&](const auto &factor) {
-        const auto withGroup = [&](const auto &over) {
-            withPlain<Order>(
-                [&](const auto &from, const auto &to) {
-                    over([&](auto lanes, std::ptrdiff_t object) {
-                        substituteInto<decltype(lanes), Order>(factor, from, to, n, object);
-                        return true;
-                    });
-                },
-                right, solution);
+        const auto solve = [&]<class V>(V * x) __attribute__((always_inline)) {
+            substitute<Order, V>(factor, x, n);
         };
-        status = byGroups<T, Order != 0>(n <= largestGroup, first, count, withGroup, one);
+        status = overRightSides<Order, T>({call.right, n, call.solution, n}, first, count, AsTheyStand(), solve, one);
     });
     return status;
 }

@@ -60,7 +60,7 @@ public:
 
     template <int Order, class Position>
     [[gnu::always_inline]] void bringUp(int k, int order, Position position) {
-        sign = choose(Rows::isAt(position, k), sign, negated(sign));
+        sign = choose(Rows::moves(position, k), negated(sign), sign);
         Rows::template bringUp<Order>(k, order, position);
     }
 
@@ -97,7 +97,7 @@ bool determinantsOfGroup(const Source &source, int order, T *results, std::ptrdi
         result = expand<Order, Group<T>>(TouchingMatrix<Group<T>>{a, Order});
     } else {
         Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
-        SignedRows<LaneRows<T>> rows(a, rowNumbers, n);
+        SignedRows<LaneRows<T, Order>> rows(a, rowNumbers, n);
         if (!multiplyPivots<Order>(rows, n, result)) {
             return false;
         }
@@ -132,7 +132,7 @@ template <class T, int Order>
 LxpStatus determinantsOf(const Determinants<T> &call, T *copy, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
     const auto withGroup = [&](const auto &over) {
-        withPlain<Order <= 4 ? Order : 0>(
+        withPlain<Order>(
             [&](const auto &source) {
                 over([&](auto, std::ptrdiff_t object) {
                     return determinantsOfGroup<T, Order>(source, n, call.results, object);

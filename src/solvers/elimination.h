@@ -82,7 +82,7 @@ public:
         return pivot;
     }
 
-    static bool isAt(int position, int k) { return position == k; }
+    static bool moves(int position, int k) { return position != k; }
 
     template <int>
     void bringUp(int k, int, int position) {
@@ -116,40 +116,49 @@ private:
     int *index;
 };
 
-// A group of objects in lanes: rows are exchanged, and their numbers with them.
-template <class T>
+// A group of objects in lanes, of known or (0) any other order: rows are exchanged, and their numbers with them.
+template <class T, int Order>
 class LaneRows {
 public:
     using Number = Group<T>;
 
-    LaneRows(Number *elements, Number *rowNumbers, int order) : a(elements), index(rowNumbers), n(order) {
+    LaneRows(Number *elements, Number *rowNumbers, int order) : a(elements), index(rowNumbers), anyOrder(order) {
         for (int i = 0; i < order; ++i) {
             index[i] = constant<Number>(i);
         }
     }
 
-    [[gnu::always_inline]] Number &operator()(int i, int j) const { return a[i * n + j]; }
+    [[gnu::always_inline]] Number &operator()(int i, int j) const { return a[i * (Order != 0 ? Order : anyOrder) + j]; }
 
-    template <int Order>
-    [[gnu::always_inline]] Pivot<Number, Number> findPivot(int k, int) const {
-        Pivot<Number, Number> pivot = {magnitude((*this)(k, k)), constant<Number>(k)};
+    // Whether row k makes room for another one: the first in which the magnitude is found again.
+    struct Position {
+        MaskOf<Number> moves;
+        Number magnitude;
+    };
+
+    template <int>
+    [[gnu::always_inline]] Pivot<Number, Position> findPivot(int k, int n) const {
+        Number ofOthers = constant<Number>(0);
         overRange<Order>(
-            k + 1, n, [&](int i) __attribute__((always_inline)) {
-                const Number candidate = magnitude((*this)(i, k));
-                const auto isLarger = isLess(pivot.magnitude, candidate);
-                pivot.magnitude = choose(isLarger, candidate, pivot.magnitude);
-                pivot.position = choose(isLarger, constant<Number>(i), pivot.position);
-            });
-        return pivot;
+            k + 1,
+            n, [&](int i) __attribute__((always_inline)) { ofOthers = larger(magnitude((*this)(i, k)), ofOthers); });
+        const Number ofRow = magnitude((*this)(k, k));
+        const Number largest = larger(ofOthers, ofRow);
+        return {largest, {isLess(ofRow, ofOthers), largest}};
     }
 
-    static MaskOf<Number> isAt(Number position, int k) { return isEqual(position, constant<Number>(k)); }
+    static MaskOf<Number> moves(Position position, int) { return position.moves; }
 
-    template <int Order>
-    [[gnu::always_inline]] void bringUp(int k, int, Number position) {
+    template <int>
+    [[gnu::always_inline]] void bringUp(int k, int n, Position position) {
         MaskOf<Number> isChosen[Order != 0 ? Order : largestCopied];
+        MaskOf<Number> isLeft = position.moves;
         overRange<Order>(
-            k + 1, n, [&](int i) __attribute__((always_inline)) { isChosen[i] = isAt(position, i); });
+            k + 1, n - 1, [&](int i) __attribute__((always_inline)) {
+                isChosen[i] = both(isLeft, isEqual(magnitude((*this)(i, k)), position.magnitude));
+                isLeft = without(isLeft, isChosen[i]);
+            });
+        isChosen[n - 1] = isLeft;
         const auto exchangeColumn = [&](Number * column, int step) __attribute__((always_inline)) {
             const Number old = column[k * step];
             Number chosen = old;
@@ -166,8 +175,8 @@ public:
         exchangeColumn(index, 1);
     }
 
-    template <int Order>
-    [[gnu::always_inline]] void subtract(int i, int k, Number factor, int from, int) const {
+    template <int>
+    [[gnu::always_inline]] void subtract(int i, int k, Number factor, int from, int n) const {
         overRange<Order>(
             from,
             n, [&](int j) __attribute__((always_inline)) { (*this)(i, j) = (*this)(i, j) - factor * (*this)(k, j); });
@@ -176,7 +185,7 @@ public:
 private:
     Number *a;
     Number *index;
-    int n;
+    int anyOrder;
 };
 
 // Returns the number of columns in front of the first singular one, of any lane; the order if there is none. A singular

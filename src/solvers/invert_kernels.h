@@ -34,14 +34,13 @@ struct Inversion {
 };
 
 // A group's matrices in lanes, one column of the identity after the other.
-template <class T, int Order>
-bool invertGroup(const GroupSource<T> &source, const GroupDestination<T> &destination, int order,
-                 std::ptrdiff_t object) {
+template <class T, int Order, class Source, class Destination>
+bool invertGroup(const Source &source, const Destination &destination, int order, std::ptrdiff_t object) {
     const int n = Order != 0 ? Order : order;
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
     source.template load<Order, Order>(object, a);
-    LaneRows<T> rows(a, rowNumbers, n);
+    LaneRows<T, Order> rows(a, rowNumbers, n);
     if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
         return false;
     }
@@ -142,8 +141,12 @@ template <class T, int Order>
 LxpStatus invertObjects(const Inversion<T> &call, const Workspace<T> &workspace, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
     const auto withGroup = [&](const auto &over) {
-        over([&, source = GroupSource<T>(call.source, n, n), destination = GroupDestination<T>(call.destination, n, n)](
-                 auto, std::ptrdiff_t object) { return invertGroup<T, Order>(source, destination, n, object); });
+        withPlain<Order>(
+            [&](const auto &source, const auto &destination) {
+                over(
+                    [&](auto, std::ptrdiff_t object) { return invertGroup<T, Order>(source, destination, n, object); });
+            },
+            GroupSource<T>(call.source, n, n), GroupDestination<T>(call.destination, n, n));
     };
     const auto one = [&](std::ptrdiff_t object) {
         return invertOne<T, Order>(call.source.from(object), call.destination.from(object), n, workspace);

@@ -11,6 +11,7 @@
 #include "solvers/elimination.h"
 #include "solvers/lu.h"
 #include "solvers/lu_substitution.h"
+#include "solvers/right_sides.h"
 
 #include <algorithm>
 #include <array>
@@ -97,14 +98,14 @@ struct Decomposition {
     Addresses<T> destination;
 };
 
-template <class T, int Order>
-bool decomposeGroup(const GroupSource<T> &source, const GroupDestination<T> &destination, int order, int *index,
+template <class T, int Order, class Source, class Destination>
+bool decomposeGroup(const Source &source, const Destination &destination, int order, int *index,
                     std::ptrdiff_t object) {
     const int n = Order != 0 ? Order : order;
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
     source.template load<Order, Order>(object, a);
-    LaneRows<T> rows(a, rowNumbers, n);
+    LaneRows<T, Order> rows(a, rowNumbers, n);
     if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
         return false;
     }
@@ -160,10 +161,13 @@ template <class T, int Order>
 LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
     const auto withGroup = [&](const auto &over) {
-        over([&, source = GroupSource<T>(call.source, n, n),
-              destination = GroupDestination<T>(call.destination, n, n)](auto, std::ptrdiff_t object) {
-            return decomposeGroup<T, Order>(source, destination, n, call.index + object * n, object);
-        });
+        withPlain<Order>(
+            [&](const auto &source, const auto &destination) {
+                over([&](auto, std::ptrdiff_t object) {
+                    return decomposeGroup<T, Order>(source, destination, n, call.index + object * n, object);
+                });
+            },
+            GroupSource<T>(call.source, n, n), GroupDestination<T>(call.destination, n, n));
     };
     const auto one = [&](std::ptrdiff_t object) {
         const auto from = call.source.from(object);
@@ -194,9 +198,9 @@ struct Substitution {
 };
 
 // Factors and right-hand sides in lanes.
-template <class T, int Order>
-void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right, const GroupDestination<T> &solution,
-                     int order, const int *index, std::ptrdiff_t object) {
+template <class T, int Order, class Source, class Destination>
+void substituteGroup(const Source &factors, const Source &right, const Destination &solution, int order,
+                     const int *index, std::ptrdiff_t object) {
     const int n = Order != 0 ? Order : order;
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     Group<T> x[Order != 0 ? Order : largestCopied];
@@ -205,28 +209,6 @@ void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right,
     const TouchingMatrix<Group<T>> matrix = {a, n};
     substitute<Order, Group<T>>(matrix, x, n);
     solution.template store<Order != 0, Order>(object, x);
-}
-
-// Right-hand sides in lanes; the factors, in pivot order, are those of all of them.
-template <class V, int Order, class Factors, class Right, class Solution>
-void substituteInto(const Factors &factors, const Right &right, const Solution &solution, int order, const int *index,
-                    std::ptrdiff_t object) {
-    using T = ElementOf<V>;
-    const int n = Order != 0 ? Order : order;
-    constexpr int elements = Order != 0 ? Order : largestGroup;
-    V x[elements];
-    loadInGroups<elements, Group<T>>(
-        x, [&](int group, Group<T> *to) __attribute__((always_inline)) {
-            Group<T> b[elements];
-            right.template load<Order != 0, Order>(object + group * groupSize<T>, b);
-            overRange<Order>(
-                0, n, [&](int i) __attribute__((always_inline)) { to[i] = b[index[i]]; });
-        });
-    substitute<Order, V>(factors, x, n);
-    storeInGroups<elements, Group<T>>(
-        x, [&](int group, const Group<T> *from) __attribute__((always_inline)) {
-            solution.template store<Order != 0, Order>(object + group * groupSize<T>, from);
-        });
 }
 
 template <class T, int Order>
@@ -264,26 +246,14 @@ LxpStatus substituteMany(const Substitution<T> &call, int first, int count) {
         substituteOne<T, Order>(call, call.index, object);
         return lxpStatusOk;
     };
-    if (count < groupSize<T> || n > largestGroup) {
-        return byGroups<T>(
-            false, first, count, [](const auto &) {}, oneByOne);
-    }
-    const GroupSource<T> right(call.right, 1, n);
-    const GroupDestination<T> solution(call.solution, 1, n);
+    const auto rowOf = [index = call.index](int i) { return index[i]; };
     const auto run = [&](const auto &factors) {
-        const auto withGroup = [&](const auto &over) {
-            withPlain<Order>(
-                [&](const auto &from, const auto &to) {
-                    over([&](auto lanes, std::ptrdiff_t object) {
-                        substituteInto<decltype(lanes), Order>(factors, from, to, n, call.index, object);
-                        return true;
-                    });
-                },
-                right, solution);
+        const auto solve = [&]<class V>(V * x) __attribute__((always_inline)) {
+            substitute<Order, V>(factors, x, n);
         };
-        return byGroups<T, Order != 0>(true, first, count, withGroup, oneByOne);
+        return overRightSides<Order, T>({call.right, n, call.solution, n}, first, count, rowOf, solve, oneByOne);
     };
-    if (n > largestCopied) {
+    if (count < groupSize<T> || n > largestCopied) { // not worth a copy, or too large for it
         return run([&](int i, int j) { return *call.factors.at(0, call.index[i], j); });
     }
     T a[Order != 0 ? Order * Order : largestGroup];
@@ -300,12 +270,16 @@ template <class T, int Order>
 LxpStatus substituteEach(const Substitution<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
     const auto withGroup = [&](const auto &over) {
-        over([&, factors = GroupSource<T>(call.factors, n, n),
-              right = GroupSource<T>(call.right.transposed(), n, 1), // for its rows to be permuted
-              solution = GroupDestination<T>(call.solution, 1, n)](auto, std::ptrdiff_t object) {
-            substituteGroup<T, Order>(factors, right, solution, n, call.index + object * n, object);
-            return true;
-        });
+        withPlain<Order>(
+            [&](const auto &factors, const auto &right, const auto &solution) {
+                over([&](auto, std::ptrdiff_t object) {
+                    substituteGroup<T, Order>(factors, right, solution, n, call.index + object * n, object);
+                    return true;
+                });
+            },
+            GroupSource<T>(call.factors, n, n),
+            GroupSource<T>(call.right.transposed(), n, 1), // for its rows to be permuted
+            GroupDestination<T>(call.solution, 1, n));
     };
     const auto one = [&](std::ptrdiff_t object) {
         substituteOne<T, Order>(call, call.index + object * n, object);

@@ -11,6 +11,7 @@
 #include "solvers/by_groups.h"
 #include "solvers/matrices.h"
 #include "solvers/qr.h"
+#include "solvers/right_sides.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -147,9 +148,8 @@ struct Decomposition {
     Addresses<T> destination;
 };
 
-template <class T, int Order>
-bool decomposeGroup(const GroupSource<T> &source, const GroupDestination<T> &destination, Size size,
-                    std::ptrdiff_t object) {
+template <class T, int Order, class Source, class Destination>
+bool decomposeGroup(const Source &source, const Destination &destination, Size size, std::ptrdiff_t object) {
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     source.template load<Order, Order>(object, a);
     const TouchingMatrix<Group<T>> matrix = {a, sizeOf<Order>(size).width};
@@ -185,9 +185,14 @@ template <class T, int Order>
 LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const Size size = call.size;
     const auto withGroup = [&](const auto &over) {
-        over([&, source = GroupSource<T>(call.source, size.height, size.width),
-              destination = GroupDestination<T>(call.destination, size.height, size.width)](
-                 auto, std::ptrdiff_t object) { return decomposeGroup<T, Order>(source, destination, size, object); });
+        withPlain<Order>(
+            [&](const auto &source, const auto &destination) {
+                over([&](auto, std::ptrdiff_t object) {
+                    return decomposeGroup<T, Order>(source, destination, size, object);
+                });
+            },
+            GroupSource<T>(call.source, size.height, size.width),
+            GroupDestination<T>(call.destination, size.height, size.width));
     };
     const auto one = [&](std::ptrdiff_t object) {
         return decomposeOne<T, Order>(call.source.from(object), call.destination.from(object), size);
@@ -211,7 +216,9 @@ template <int Order, class V, class Matrix, class Vector, class Scale>
         0, size.reflectors(), [&](int k) __attribute__((always_inline)) {
             V product = x[k];
             overRange<Order>(
-                k + 1, size.height, [&](int i) __attribute__((always_inline)) { product = product + a(i, k) * x[i]; });
+                k + 1, size.height, [&](int i) __attribute__((always_inline)) {
+                    product = product + number<V>(a(i, k)) * x[i];
+                });
             product = number<V>(scaleOfColumn(k)) * product;
             x[k] = x[k] + product;
             overRange<Order>(
@@ -222,7 +229,9 @@ template <int Order, class V, class Matrix, class Vector, class Scale>
         0, size.width, [&](int i) __attribute__((always_inline)) {
             V element = x[i];
             overRange<Order>(
-                i + 1, size.width, [&](int j) __attribute__((always_inline)) { element = element - a(i, j) * x[j]; });
+                i + 1, size.width, [&](int j) __attribute__((always_inline)) {
+                    element = element - number<V>(a(i, j)) * x[j];
+                });
             x[i] = element / number<V>(a(i, i));
         });
 }
@@ -237,9 +246,9 @@ struct Substitution {
 };
 
 // Factors and right-hand sides in lanes.
-template <class T, int Order>
-void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right, const GroupDestination<T> &solution,
-                     Size size, std::ptrdiff_t object) {
+template <class T, int Order, class Source, class Destination>
+void substituteGroup(const Source &factors, const Source &right, const Destination &solution, Size size,
+                     std::ptrdiff_t object) {
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     Group<T> x[Order != 0 ? Order : largestGroup];
     factors.template load<Order, Order>(object, a);
@@ -249,19 +258,6 @@ void substituteGroup(const GroupSource<T> &factors, const GroupSource<T> &right,
         return scaleOf<Order, Group<T>>(matrix, k, sizeOf<Order>(size).height);
     };
     substitute<Order, Group<T>>(matrix, x, size, scale);
-    solution.template store<Order != 0, Order>(object, x);
-}
-
-// Right-hand sides in lanes, the same factors for all of them.
-template <class T, int Order, class Matrix>
-void substituteInto(const Matrix &factors, const T *scales, const GroupSource<T> &right,
-                    const GroupDestination<T> &solution, Size size, std::ptrdiff_t object) {
-    Group<T> x[Order != 0 ? Order : largestGroup];
-    right.template load<Order != 0, Order>(object, x);
-    const auto scale = [&](int k) __attribute__((always_inline)) {
-        return scales[k];
-    };
-    substitute<Order, Group<T>>(factors, x, size, scale);
     solution.template store<Order != 0, Order>(object, x);
 }
 
@@ -289,36 +285,39 @@ void substituteOne(const Substitution<T> &call, T *x, std::ptrdiff_t object) {
 template <class T, int Order>
 LxpStatus substituteObjects(const Substitution<T> &call, T *x, int first, int count) {
     const Size size = sizeOf<Order>(call.size);
-    const GroupSource<T> right(call.right, 1, size.height);
-    const GroupDestination<T> solution(call.solution, 1, size.width);
     const auto one = [&](std::ptrdiff_t object) {
         substituteOne<T, Order>(call, x, object);
         return lxpStatusOk;
     };
     if (!call.factors.isSingle() || count < groupSize<T>) {
         const auto withGroup = [&](const auto &over) {
-            over([&, factors = GroupSource<T>(call.factors, size.height, size.width)](auto, std::ptrdiff_t object) {
-                substituteGroup<T, Order>(factors, right, solution, size, object);
-                return true;
-            });
+            withPlain<Order>(
+                [&](const auto &factors, const auto &right, const auto &solution) {
+                    over([&](auto, std::ptrdiff_t object) {
+                        substituteGroup<T, Order>(factors, right, solution, size, object);
+                        return true;
+                    });
+                },
+                GroupSource<T>(call.factors, size.height, size.width), GroupSource<T>(call.right, 1, size.height),
+                GroupDestination<T>(call.solution, 1, size.width));
         };
         return byGroups<T>(size.fits(largestGroup), first, count, withGroup, one);
     }
     LxpStatus status = lxpStatusOk;
     T copy[Order != 0 ? Order * Order : largestGroup];
     withMatrix<Part::Whole>(call.factors, size.height, size.width, copy, [&](const auto &a) {
-        const bool fits = size.height <= largestGroup;
         T scales[Order != 0 ? Order : largestGroup];
-        for (int k = 0; k < size.reflectors() && fits; ++k) {
+        for (int k = 0; k < size.reflectors() && size.height <= largestGroup; ++k) {
             scales[k] = scaleOf<Order, T>(a, k, size.height);
         }
-        const auto withGroup = [&](const auto &over) {
-            over([&](auto, std::ptrdiff_t object) {
-                substituteInto<T, Order>(a, scales, right, solution, size, object);
-                return true;
-            });
+        const auto scale = [&](int k) __attribute__((always_inline)) {
+            return scales[k];
         };
-        status = byGroups<T>(fits, first, count, withGroup, one);
+        const auto solve = [&]<class V>(V * elements) __attribute__((always_inline)) {
+            substitute<Order, V>(a, elements, size, scale);
+        };
+        status = overRightSides<Order, T>({call.right, size.height, call.solution, size.width}, first, count,
+                                          AsTheyStand(), solve, one);
     });
     return status;
 }
