@@ -33,8 +33,8 @@ Addresses<Element> withoutElementPointers(const Addresses<Element> &operand, int
     const std::ptrdiff_t columnStep = columns > 1 ? distance(first, pointer(0, 1)) : std::ptrdiff_t(sizeof(Element));
     bool isRegular = rowStep > 0 && columnStep > 0;
     for (std::ptrdiff_t i = 0; i < rows && isRegular; ++i) {
-        for (std::ptrdiff_t j = 0; j < columns; ++j) {
-            isRegular &= distance(first, pointer(i, j)) == i * rowStep + j * columnStep;
+        for (std::ptrdiff_t j = 0; j < columns && isRegular; ++j) {
+            isRegular = distance(first, pointer(i, j)) == i * rowStep + j * columnStep;
         }
     }
     if (!isRegular) {
@@ -56,7 +56,7 @@ GroupOperand<Element>::GroupOperand(const Addresses<Element> &operand, int heigh
                                                                               : Access::OneByOne;
     isDense = access == Access::RowsTouch && (rows == 1 || addresses.step[1] == columns * size);
     isPlain = isDense && (addresses.pointers == nullptr || addresses.pointerStep == Steps{1, 0, 0});
-    objectsTouch = isDense && addresses.pointers == nullptr && addresses.step[0] == rows * columns * size;
+    objectsFollow = isDense && addresses.pointers == nullptr && addresses.step[0] == columns * size * rows;
 }
 
 template struct GroupOperand<const float>;

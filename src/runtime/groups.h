@@ -7,8 +7,8 @@
 // of each object at a time; where the same element of successive objects touches, a register is loaded as it stands;
 // anything else is picked one by one.
 //
-// Rows may be permuted, each object's by its own indices. Of a lower triangle, what stands above the diagonal is
-// neither read through pointers nor written.
+// Rows may be permuted, each object's by its own indices. Of a lower triangle, what stands above the diagonal is read
+// only where it is memory between other elements of the object, not through pointers of its own, and never written.
 
 #include "runtime/addresses.h"
 #include "runtime/lanes.h"
@@ -40,7 +40,7 @@ namespace detail {
 enum class Access { RowsTouch, ColumnsTouch, ObjectsTouch, OneByOne };
 
 // Of objects without gaps: whether the next one follows without a gap, too, so that all are a known distance apart.
-enum class Objects { Touch, Anywhere };
+enum class Objects { Follow, Anywhere };
 
 // An operand, its element pointers replaced by steps in bytes where they are as regular as those.
 template <class Element>
@@ -51,9 +51,9 @@ struct GroupOperand {
     Access access;
     int rows;
     int columns;
-    bool isDense;      // the elements of an object stand in one row
-    bool isPlain;      // and a pointer leads to all objects or to each
-    bool objectsTouch; // and there is nothing between two objects
+    bool isDense;       // the elements of an object stand in one row
+    bool isPlain;       // and a pointer leads to all objects or to each
+    bool objectsFollow; // and there is nothing between two objects
 };
 
 extern template struct GroupOperand<const float>;
@@ -124,7 +124,7 @@ template <Objects objects, int size, class Element>
 [[gnu::always_inline]] inline Pointers<Element> pointersTo(const GroupOperand<Element> &operand,
                                                            std::ptrdiff_t object) {
     const Addresses<Element> &a = operand.addresses;
-    if constexpr (objects == Objects::Touch) {
+    if constexpr (objects == Objects::Follow) {
         Element *const first = shifted(a.base, a.offset) + object * size;
         return inLanes<Element>([=](std::ptrdiff_t lane) { return first + lane * size; });
     }
@@ -168,7 +168,8 @@ template <int Rows, int Columns, class Element>
         [&](std::ptrdiff_t lane) { return objects[lane] + std::ptrdiff_t(rowOf[lane * Rows + row]) * Columns; });
 }
 
-// Known numbers of elements go by way of memory, so that they themselves can stay in registers.
+// To and from functions that take an address: a known number of elements goes by way of a copy, since what an address
+// is taken of cannot stay in registers.
 template <Part part, int Rows, int Columns, class T>
 [[gnu::always_inline]] inline void copyElements(const Group<T> *from, Group<T> *to) {
     forEachOf<Rows * Columns>([&](auto element) __attribute__((always_inline)) {
@@ -179,7 +180,7 @@ template <Part part, int Rows, int Columns, class T>
 }
 
 template <int Rows, int Columns, Part part = Part::Whole, class T, class Load>
-[[gnu::always_inline]] inline void through(Group<T> *to, const Load &load) {
+[[gnu::always_inline]] inline void loadThrough(Group<T> *to, const Load &load) {
     if constexpr (Rows == 0) {
         load(to);
     } else {
@@ -190,7 +191,7 @@ template <int Rows, int Columns, Part part = Part::Whole, class T, class Load>
 }
 
 template <int Rows, int Columns, Part part = Part::Whole, class T, class Store>
-[[gnu::always_inline]] inline void through(const Group<T> *from, const Store &store) {
+[[gnu::always_inline]] inline void storeThrough(const Group<T> *from, const Store &store) {
     if constexpr (Rows == 0) {
         store(from);
     } else {
@@ -206,8 +207,6 @@ template <int Rows, int Columns, Part part = Part::Whole, class T, class Store>
 //
 //   Rows, Columns   the sizes where they are known beforehand, else 0
 //   rowOf           row i of lane l is row rowOf[l * rows + i] of its object
-//
-// Of a lower triangle, what stands above the diagonal of a known order is read where it is memory of the object.
 
 // Objects without gaps, of known sizes.
 
@@ -260,25 +259,15 @@ public:
 
     template <int Order>
     [[gnu::always_inline]] void storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
-        storeRows(from, detail::pointersTo<objects, Order * Order>(to, object),
-                  std::make_integer_sequence<int, Order>());
+        const auto places = detail::pointersTo<objects, Order * Order>(to, object);
+        forEachOf<Order>([&](auto row) __attribute__((always_inline)) {
+            const auto rowOfObjects =
+                detail::inLanes<T>([&](std::ptrdiff_t lane) { return places[lane] + row * Order; });
+            detail::storeLength<row + 1, T>(from + row * Order, rowOfObjects);
+        });
     }
 
 private:
-    template <int... row>
-    [[gnu::always_inline]] static void storeRows(const Group<T> *from, const detail::Pointers<T> &places,
-                                                 std::integer_sequence<int, row...>) {
-        constexpr int order = sizeof...(row);
-        const auto rowOfObjects = [&](int i) __attribute__((always_inline)) {
-            detail::Pointers<T> pointers = places;
-            for (T *&pointer : pointers) {
-                pointer += i * order;
-            }
-            return pointers;
-        };
-        (detail::storeLength<row + 1, T>(from + row * order, rowOfObjects(row)), ...);
-    }
-
     const detail::GroupOperand<T> &to;
 };
 
@@ -291,7 +280,7 @@ public:
     GroupSource(const Addresses<const T> &operand, int rows, int columns) : from(operand, rows, columns) {}
 
     bool isPlain() const { return from.isPlain; }
-    bool objectsTouch() const { return from.objectsTouch; }
+    bool objectsFollow() const { return from.objectsFollow; }
     template <detail::Objects objects>
     PlainGroupSource<T, objects> plain() const {
         return PlainGroupSource<T, objects>(from);
@@ -299,18 +288,18 @@ public:
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to) const {
-        detail::through<Rows, Columns>(to, [&](Group<T> *elements) { loadAny<Rows, Columns>(object, elements); });
+        detail::loadThrough<Rows, Columns>(to, [&](Group<T> *elements) { loadAny<Rows, Columns>(object, elements); });
     }
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
-        detail::through<Rows, Columns>(
+        detail::loadThrough<Rows, Columns>(
             to, [&](Group<T> *elements) { loadAny<Rows, Rows != 0 ? Columns : 0>(object, elements, rowOf); });
     }
 
     template <int Order>
     [[gnu::always_inline]] void loadLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
-        detail::through<Order, Order, Part::LowerTriangle>(
+        detail::loadThrough<Order, Order, Part::LowerTriangle>(
             to, [&](Group<T> *elements) { loadAnyLowerTriangle<Order>(object, elements); });
     }
 
@@ -331,7 +320,7 @@ public:
     GroupDestination(const Addresses<T> &operand, int rows, int columns) : to(operand, rows, columns) {}
 
     bool isPlain() const { return to.isPlain; }
-    bool objectsTouch() const { return to.objectsTouch; }
+    bool objectsFollow() const { return to.objectsFollow; }
     template <detail::Objects objects>
     PlainGroupDestination<T, objects> plain() const {
         return PlainGroupDestination<T, objects>(to);
@@ -339,19 +328,19 @@ public:
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from) const {
-        detail::through<Rows, Columns>(from,
-                                       [&](const Group<T> *elements) { storeAny<Rows, Columns>(object, elements); });
+        detail::storeThrough<Rows, Columns>(
+            from, [&](const Group<T> *elements) { storeAny<Rows, Columns>(object, elements); });
     }
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
-        detail::through<Rows, Columns>(
+        detail::storeThrough<Rows, Columns>(
             from, [&](const Group<T> *elements) { storeAny<Rows, Columns>(object, elements, rowOf); });
     }
 
     template <int Order>
     [[gnu::always_inline]] void storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
-        detail::through<Order, Order, Part::LowerTriangle>(
+        detail::storeThrough<Order, Order, Part::LowerTriangle>(
             from, [&](const Group<T> *elements) { storeAnyLowerTriangle<Order>(object, elements); });
     }
 
@@ -395,8 +384,8 @@ template <int Order, class F, class... Operands>
 [[gnu::always_inline]] inline void withPlain(const F &f, const Operands &...operands) {
     if constexpr (Order != 0) {
         using detail::Objects;
-        if ((operands.objectsTouch() && ...)) {
-            f(operands.template plain<Objects::Touch>()...);
+        if ((operands.objectsFollow() && ...)) {
+            f(operands.template plain<Objects::Follow>()...);
             return;
         }
         if ((operands.isPlain() && ...)) {

@@ -6,8 +6,8 @@
 //
 // What the type leaves out is part of its design, because it would not give the bits of the scalar code: no
 // multiply-add under any name, no unary minus (it flips the sign of a zero where 0 - x does not), no minimum and
-// maximum (their rules for NaN and zero differ from a comparison's), no sum over lanes (it needs an order), no
-// estimates.
+// maximum (their rules for NaN and zero differ from a comparison's; numbers.h has one that says them), no sum over
+// lanes (it needs an order), no estimates.
 
 #include <array>
 #include <bit>

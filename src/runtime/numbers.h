@@ -128,7 +128,7 @@ using Mask64 = MaskOf<Lanes64>;
     inline Number only(Mask mask, Number x) {                                                                          \
         return {_mm256_and_##ps(mask.bits, x.vector)};                                                                 \
     }                                                                                                                  \
-    /* x where it is larger, y elsewhere: where one of them is NaN, too. */                                            \
+    /* x where it is larger, y elsewhere: where one of them is NaN, and of zeros, too. */                              \
     inline Number larger(Number x, Number y) {                                                                         \
         return {_mm256_max_##ps(x.vector, y.vector)};                                                                  \
     }                                                                                                                  \

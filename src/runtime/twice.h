@@ -2,14 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "runtime/lanes.h"
 #include "runtime/numbers.h"
 
 #include <type_traits>
 
 namespace lxpm {
 
-// An iteration, and what has a root in each row, waits for roots and quotients most of the time. Two that do not depend
-// on one another fill the time.
+// An iteration, and a substitution, waits for roots, quotients and sums most of the time. Two that do not depend on one
+// another fill the time.
 template <class L>
 struct Twice {
     L low;
@@ -102,8 +103,6 @@ inline bool all(TwiceMask<M> mask) {
     return all(both(mask.low, mask.high));
 }
 
-namespace detail {
-
 // How many groups go side by side in a V.
 template <class V>
 inline constexpr int groupsIn = NumberOf<V>::lanes / groupSize<ElementOf<V>>;
@@ -117,49 +116,6 @@ template <int group, class V>
         return groupOf<group>(x.low);
     } else {
         return groupOf<group - ofHalf>(x.high);
-    }
-}
-
-} // namespace detail
-
-struct AsTheyStand {
-    int operator()(int i) const { return i; }
-};
-
-// `count` elements, at most `most`, from those of one group after the other, load(group, elements): to[i] are those
-// of row rowOf(i).
-template <int most, class V, class Load, class RowOf = AsTheyStand>
-[[gnu::always_inline]] inline void loadSideBySide(V *to, int count, const Load &load, const RowOf &rowOf = {}) {
-    constexpr int groups = detail::groupsIn<V>;
-    if constexpr (groups == 1 && std::is_same_v<RowOf, AsTheyStand>) {
-        load(0, to);
-    } else {
-        Group<ElementOf<V>> elements[groups][most];
-        forEachOf<groups>([&](auto group) __attribute__((always_inline)) { load(group, elements[group]); });
-#pragma GCC unroll 64
-        for (int i = 0; i < count; ++i) {
-            forEachOf<groups>([&](auto group) __attribute__((always_inline)) {
-                detail::groupOf<group>(to[i]).vector = elements[group][rowOf(i)].vector;
-            });
-        }
-    }
-}
-
-// And back: store(group, elements).
-template <int most, class V, class Store>
-[[gnu::always_inline]] inline void storeSideBySide(const V *from, int count, const Store &store) {
-    constexpr int groups = detail::groupsIn<V>;
-    if constexpr (groups == 1) {
-        store(0, from);
-    } else {
-        Group<ElementOf<V>> elements[groups][most];
-#pragma GCC unroll 64
-        for (int i = 0; i < count; ++i) {
-            forEachOf<groups>([&](auto group) __attribute__((always_inline)) {
-                elements[group][i].vector = detail::groupOf<group>(from[i]).vector;
-            });
-        }
-        forEachOf<groups>([&](auto group) __attribute__((always_inline)) { store(group, elements[group]); });
     }
 }
 

@@ -58,10 +58,10 @@ public:
     using Number = typename Rows::Number;
     using Rows::Rows;
 
-    template <int Order, class Position>
-    [[gnu::always_inline]] void bringUp(int k, int order, Position position) {
+    template <class Position>
+    [[gnu::always_inline]] void bringUp(int k, Position position) {
         sign = choose(Rows::moves(position, k), negated(sign), sign);
-        Rows::template bringUp<Order>(k, order, position);
+        Rows::bringUp(k, position);
     }
 
     Number sign = constant<Number>(1);
@@ -116,7 +116,7 @@ T determinantOf(const Addresses<const T> &source, int order, T *copy) {
     } else {
         int small[largestCopied];
         int *const rowNumbers = n <= largestCopied ? small : reinterpret_cast<int *>(copy + std::ptrdiff_t(n) * n);
-        SignedRows<IndexedRows<T, TouchingMatrix<T>>> rows(a, rowNumbers, n);
+        SignedRows<IndexedRows<T, Order, TouchingMatrix<T>>> rows(a, rowNumbers, n);
         T result = 0;
         return multiplyPivots<Order>(rows, n, result) ? result : 0;
     }

@@ -15,6 +15,7 @@
 #include "solvers/matrices.h"
 
 #include <limits>
+#include <type_traits>
 #include <utility>
 
 namespace lxpm {
@@ -55,13 +56,15 @@ struct Pivot {
     Position position;
 };
 
+// Rows of an object or of a group, of known or (0) any other order.
+
 // One object: rows stay where they are, index[i] is the number of the i-th one in pivot order.
-template <class T, class Matrix>
+template <class T, int Order, class Matrix>
 class IndexedRows {
 public:
     using Number = T;
 
-    IndexedRows(const Matrix &matrix, int *rowNumbers, int order) : a(matrix), index(rowNumbers) {
+    IndexedRows(const Matrix &matrix, int *rowNumbers, int order) : a(matrix), index(rowNumbers), anyOrder(order) {
         for (int i = 0; i < order; ++i) {
             index[i] = i;
         }
@@ -69,11 +72,12 @@ public:
 
     T &operator()(int i, int j) const { return a(index[i], j); }
 
-    template <int Order>
-    Pivot<T, int> findPivot(int k, int n) const {
+    int order() const { return Order != 0 ? Order : anyOrder; }
+
+    Pivot<T, int> findPivot(int k) const {
         Pivot<T, int> pivot = {magnitude((*this)(k, k)), k};
         overRange<Order>(
-            k + 1, n, [&](int i) __attribute__((always_inline)) {
+            k + 1, order(), [&](int i) __attribute__((always_inline)) {
                 const T candidate = magnitude((*this)(i, k));
                 const bool isLarger = pivot.magnitude < candidate;
                 pivot.magnitude = isLarger ? candidate : pivot.magnitude;
@@ -84,14 +88,11 @@ public:
 
     static bool moves(int position, int k) { return position != k; }
 
-    template <int>
-    void bringUp(int k, int, int position) {
-        std::swap(index[k], index[position]);
-    }
+    void bringUp(int k, int position) { std::swap(index[k], index[position]); }
 
     // Row i minus a multiple of row k, from column `from` on.
-    template <int Order>
-    void subtract(int i, int k, T factor, int from, int n) const {
+    void subtract(int i, int k, T factor, int from) const {
+        const int n = order();
         if constexpr (Order == 0 && std::is_same_v<Matrix, TouchingMatrix<T>>) {
             T *row = &(*this)(i, 0);
             const T *other = &(*this)(k, 0);
@@ -114,9 +115,10 @@ public:
 private:
     Matrix a;
     int *index;
+    int anyOrder;
 };
 
-// A group of objects in lanes, of known or (0) any other order: rows are exchanged, and their numbers with them.
+// A group of objects in lanes: rows are exchanged, and their numbers with them.
 template <class T, int Order>
 class LaneRows {
 public:
@@ -128,20 +130,21 @@ public:
         }
     }
 
-    [[gnu::always_inline]] Number &operator()(int i, int j) const { return a[i * (Order != 0 ? Order : anyOrder) + j]; }
+    [[gnu::always_inline]] Number &operator()(int i, int j) const { return a[i * order() + j]; }
+    int order() const { return Order != 0 ? Order : anyOrder; }
 
-    // Whether row k makes room for another one: the first in which the magnitude is found again.
+    // Where row k makes room for another one: the first one in which the magnitude is found again.
     struct Position {
         MaskOf<Number> moves;
         Number magnitude;
     };
 
-    template <int>
-    [[gnu::always_inline]] Pivot<Number, Position> findPivot(int k, int n) const {
+    [[gnu::always_inline]] Pivot<Number, Position> findPivot(int k) const {
         Number ofOthers = constant<Number>(0);
         overRange<Order>(
-            k + 1,
-            n, [&](int i) __attribute__((always_inline)) { ofOthers = larger(magnitude((*this)(i, k)), ofOthers); });
+            k + 1, order(), [&](int i) __attribute__((always_inline)) {
+                ofOthers = larger(magnitude((*this)(i, k)), ofOthers);
+            });
         const Number ofRow = magnitude((*this)(k, k));
         const Number largest = larger(ofOthers, ofRow);
         return {largest, {isLess(ofRow, ofOthers), largest}};
@@ -149,8 +152,8 @@ public:
 
     static MaskOf<Number> moves(Position position, int) { return position.moves; }
 
-    template <int>
-    [[gnu::always_inline]] void bringUp(int k, int n, Position position) {
+    [[gnu::always_inline]] void bringUp(int k, Position position) {
+        const int n = order();
         MaskOf<Number> isChosen[Order != 0 ? Order : largestCopied];
         MaskOf<Number> isLeft = position.moves;
         overRange<Order>(
@@ -175,11 +178,11 @@ public:
         exchangeColumn(index, 1);
     }
 
-    template <int>
-    [[gnu::always_inline]] void subtract(int i, int k, Number factor, int from, int n) const {
+    [[gnu::always_inline]] void subtract(int i, int k, Number factor, int from) const {
         overRange<Order>(
-            from,
-            n, [&](int j) __attribute__((always_inline)) { (*this)(i, j) = (*this)(i, j) - factor * (*this)(k, j); });
+            from, order(), [&](int j) __attribute__((always_inline)) {
+                (*this)(i, j) = (*this)(i, j) - factor * (*this)(k, j);
+            });
     }
 
 private:
@@ -200,7 +203,7 @@ template <int Order, class Rules, class Rows>
             if (done < k) {
                 return;
             }
-            const auto pivot = a.template findPivot<Order>(k, n);
+            const auto pivot = a.findPivot(k);
             if (any(Rules::isSingular(pivot.magnitude))) {
                 done = k;
                 return;
@@ -208,14 +211,14 @@ template <int Order, class Rules, class Rows>
             if (k + 1 == n) {
                 return;
             }
-            a.template bringUp<Order>(k, n, pivot.position);
+            a.bringUp(k, pivot.position);
             const V divisor = a(k, k);
             const V reciprocal = constant<V>(1) / divisor;
             overRange<Order>(
                 k + 1, n, [&](int i) __attribute__((always_inline)) {
                     const V factor = Rules::usesReciprocal(k) ? a(i, k) * reciprocal : a(i, k) / divisor;
                     a(i, k) = factor;
-                    a.template subtract<Order>(i, k, factor, k + 1, n);
+                    a.subtract(i, k, factor, k + 1);
                 });
         });
     return done;

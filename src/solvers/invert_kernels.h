@@ -107,7 +107,7 @@ LxpStatus invertOne(const Addresses<const T> &source, const Addresses<T> &destin
     Group<T> *const x = workspace.columns();
     copyMatrix<Part::Whole>(source, plainMatrix(a, n), n, n);
     const TouchingMatrix<T> matrix = {a, n};
-    IndexedRows<T, TouchingMatrix<T>> rows(matrix, workspace.rowNumbers(), n);
+    IndexedRows<T, Order, TouchingMatrix<T>> rows(matrix, workspace.rowNumbers(), n);
     if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
         return lxpStatusSingularErr;
     }

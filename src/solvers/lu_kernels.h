@@ -127,7 +127,7 @@ LxpStatus decomposeOne(const Addresses<const T> &source, int *index, const Addre
     int rowNumbers[Order];
     copyMatrix<Part::Whole>(source, plainMatrix(a, Order), Order, Order);
     const TouchingMatrix<T> matrix = {a, Order};
-    IndexedRows<T, TouchingMatrix<T>> rows(matrix, rowNumbers, Order);
+    IndexedRows<T, Order, TouchingMatrix<T>> rows(matrix, rowNumbers, Order);
     const int done = eliminate<Order, SmallOrderRules>(rows, Order);
     for (int k = 0; k < done; ++k) {
         index[k] = rowNumbers[k];
@@ -139,7 +139,7 @@ LxpStatus decomposeOne(const Addresses<const T> &source, int *index, const Addre
 // Others work in the destination.
 template <class T, class Matrix>
 LxpStatus eliminateAnyOrder(const Matrix &matrix, int *index, int n) {
-    IndexedRows<T, Matrix> rows(matrix, index, n);
+    IndexedRows<T, 0, Matrix> rows(matrix, index, n);
     return eliminate<0, AnyOrderRules>(rows, n) < n ? lxpStatusSingularErr : lxpStatusOk;
 }
 
@@ -246,12 +246,12 @@ LxpStatus substituteMany(const Substitution<T> &call, int first, int count) {
         substituteOne<T, Order>(call, call.index, object);
         return lxpStatusOk;
     };
-    const auto rowOf = [index = call.index](int i) { return index[i]; };
+    const auto inPivotOrder = [index = call.index](int i) { return index[i]; };
     const auto run = [&](const auto &factors) {
         const auto solve = [&]<class V>(V * x) __attribute__((always_inline)) {
             substitute<Order, V>(factors, x, n);
         };
-        return overRightSides<Order, T>({call.right, n, call.solution, n}, first, count, rowOf, solve, oneByOne);
+        return overRightSides<Order, T>({call.right, n, call.solution, n}, first, count, inPivotOrder, solve, oneByOne);
     };
     if (count < groupSize<T> || n > largestCopied) { // not worth a copy, or too large for it
         return run([&](int i, int j) { return *call.factors.at(0, call.index[i], j); });

@@ -13,7 +13,6 @@
 #include "solvers/qr.h"
 #include "solvers/right_sides.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <limits>
 #include <type_traits>

@@ -5,9 +5,13 @@
 // Many right-hand sides of one matrix, one in each lane. Every element of the factors is fetched once for several
 // groups, which go side by side: each waits for its sums and quotients while the others compute.
 
+#include "runtime/addresses.h"
 #include "runtime/groups.h"
+#include "runtime/lanes.h"
+#include "runtime/numbers.h"
 #include "runtime/twice.h"
 #include "solvers/by_groups.h"
+#include "solvers/matrices.h"
 
 #include <lxpm/types.h>
 
@@ -16,7 +20,7 @@
 
 namespace lxpm {
 
-// Where right-hand sides stand and solutions go; the numbers of their elements.
+// Right-hand sides of `rows` elements, solutions of `columns`: those of the matrix.
 template <class T>
 struct RightSides {
     Addresses<const T> right;
@@ -25,25 +29,47 @@ struct RightSides {
     int columns;
 };
 
+struct AsTheyStand {
+    int operator()(int i) const { return i; }
+};
+
 namespace detail {
 
+// As many elements as fit the stack and the first cache, whatever goes side by side.
+template <class V>
+inline constexpr int largestRightSide = largestGroup / groupsIn<V>;
+
+// Never part of its callers, so that only one of them is on the stack.
 template <class V, int Order, class Source, class Destination, class RowOf, class Solve>
-void solveSideBySide(const Source &right, const Destination &solution, int rows, int columns, const RowOf &rowOf,
-                     const Solve &solve, std::ptrdiff_t object) {
+[[gnu::noinline]] void solveSideBySide(const Source &right, const Destination &solution, int rows, int columns,
+                                       const RowOf &rowOf, const Solve &solve, std::ptrdiff_t object) {
     using T = ElementOf<V>;
-    constexpr int most = Order != 0 ? Order : largestGroup;
+    constexpr int groups = groupsIn<V>;
+    constexpr int most = Order != 0 ? Order : largestRightSide<V>;
+    const int height = Order != 0 ? Order : rows;
+    const int width = Order != 0 ? Order : columns;
+    Group<T> elements[groups * most];
     V x[most];
-    loadSideBySide<most>(
-        x, Order != 0 ? Order : rows,
-        [&](int group, Group<T> *to) __attribute__((always_inline)) {
-            right.template load<Order != 0, Order>(object + group * groupSize<T>, to);
-        },
-        rowOf);
-    solve(x);
-    storeSideBySide<most>(
-        x, Order != 0 ? Order : columns, [&](int group, const Group<T> *from) __attribute__((always_inline)) {
-            solution.template store<Order != 0, Order>(object + group * groupSize<T>, from);
+    forEachOf<groups>([&](auto group) __attribute__((always_inline)) {
+        right.template load<Order != 0, Order>(object + group * groupSize<T>, elements + group * height);
+    });
+    overRange<Order>(
+        0, height, [&](int i) __attribute__((always_inline)) {
+            forEachOf<groups>([&](auto group) __attribute__((always_inline)) {
+                groupOf<group>(x[i]).vector = elements[group * height + rowOf(i)].vector;
+            });
         });
+    solve(x);
+    Group<T> results[groups * most];
+    overRange<Order>(
+        0, width, [&](int i) __attribute__((always_inline)) {
+            forEachOf<groups>([&](auto group) __attribute__((always_inline)) {
+                results[group * width + i].vector = groupOf<group>(x[i]).vector;
+            });
+        });
+    forEachOf<groups>([&](auto group) __attribute__((always_inline)) {
+        solution.template store<Order != 0, Order>(object + group * groupSize<T>, results + group * width);
+    });
 }
 
 } // namespace detail
@@ -53,21 +79,24 @@ void solveSideBySide(const Source &right, const Destination &solution, int rows,
 template <int Order, class T, class RowOf, class Solve, class One>
 LxpStatus overRightSides(const RightSides<T> &sides, int first, int count, const RowOf &rowOf, const Solve &solve,
                          const One &one) {
-    constexpr int atOnce = Order != 0 ? 2 : 4; // the elements of known orders stay in registers
-    const GroupSource<T> right(sides.right, 1, sides.rows);
-    const GroupDestination<T> solution(sides.solution, 1, sides.columns);
+    const int size = std::max(sides.rows, sides.columns);
     const auto withGroup = [&](const auto &over) {
         withPlain<Order>(
-            [&](const auto &from, const auto &to) {
+            [&](const auto &right, const auto &solution) {
                 over([&](auto lanes, std::ptrdiff_t object) {
-                    detail::solveSideBySide<decltype(lanes), Order>(from, to, sides.rows, sides.columns, rowOf, solve,
-                                                                    object);
+                    detail::solveSideBySide<decltype(lanes), Order>(right, solution, sides.rows, sides.columns, rowOf,
+                                                                    solve, object);
                     return true;
                 });
             },
-            right, solution);
+            GroupSource<T>(sides.right, 1, sides.rows), GroupDestination<T>(sides.solution, 1, sides.columns));
     };
-    return byGroups<T, atOnce>(std::max(sides.rows, sides.columns) <= largestGroup, first, count, withGroup, one);
+    if constexpr (Order != 0) {
+        return byGroups<T, 2>(true, first, count, withGroup, one); // the elements of more do not stay in registers
+    } else if (size <= detail::largestRightSide<SideBySide<Group<T>, 4>>) {
+        return byGroups<T, 4>(true, first, count, withGroup, one);
+    }
+    return byGroups<T>(size <= detail::largestRightSide<Group<T>>, first, count, withGroup, one);
 }
 
 } // namespace lxpm

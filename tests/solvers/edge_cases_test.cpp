@@ -568,6 +568,45 @@ TYPED_TEST(Solvers, TiesFollowTheExchangedOrder) {
     EXPECT_EQ(index, (std::vector<int>{3, 1, 2, 0}));
 }
 
+TYPED_TEST(Solvers, ArraysChooseThePivotsOfSingles) {
+    using T = TypeParam;
+    constexpr int count = 61; // whole groups of lanes
+    constexpr T nan = std::numeric_limits<T>::quiet_NaN();
+    constexpr T infinity = std::numeric_limits<T>::infinity();
+    std::mt19937 generator(7);
+    for (const int n : {1, 2, 3, 4, 5, 6, 7, 16}) {
+        // Few different magnitudes, so that candidates are equal more often than not; some objects with what is not
+        // to be compared, on the diagonal and elsewhere.
+        std::vector<T> a;
+        std::vector<T> factors;
+        std::vector<int> rows;
+        while (static_cast<int>(a.size()) < count * n * n) {
+            std::vector<T> object(n * n);
+            for (T &element : object) {
+                element = static_cast<T>(static_cast<int>(generator() % 7) - 3);
+            }
+            const unsigned kind = generator() % 4;
+            if (kind < 2) {
+                object[generator() % object.size()] = kind == 0 ? nan : -infinity;
+            }
+            std::vector<T> dst(n * n);
+            std::vector<int> index(n);
+            if (factorLU(object.data(), index.data(), dst.data(), n) == lxpStatusOk) {
+                a.insert(a.end(), object.begin(), object.end());
+                factors.insert(factors.end(), dst.begin(), dst.end());
+                rows.insert(rows.end(), index.begin(), index.end());
+            }
+        }
+        std::vector<T> dst(a.size());
+        std::vector<int> index(rows.size());
+        ASSERT_EQ(factorLU(a.data(), index.data(), dst.data(), n, count), lxpStatusOk);
+        EXPECT_EQ(index, rows) << n;
+        for (std::size_t i = 0; i < dst.size(); ++i) {
+            EXPECT_TRUE(dst[i] == factors[i] || (dst[i] != dst[i] && factors[i] != factors[i])) << n << " " << i;
+        }
+    }
+}
+
 TEST(SolverCases, CountComesBeforeOrder) {
     const float a = 1;
     float dst = 7;

@@ -157,8 +157,8 @@ const SizeAxes matrixVectorSizes = {
 
 std::span<const int> countsOf(const Model &model) {
     // One object; fewer than the lanes of a register of either type; exactly as many; one more; two registers of
-    // lanes and a remainder; many.
-    static constexpr int ofArrays[] = {1, 2, 3, 7, 8, 9, 17, 100};
+    // lanes and a remainder; many, with every number of registers that go side by side at the end, of either type.
+    static constexpr int ofArrays[] = {1, 2, 3, 7, 8, 9, 17, 125};
     static constexpr int ofSingles[] = {1};
     return model.hasCount ? std::span<const int>(ofArrays) : std::span<const int>(ofSingles);
 }
