@@ -50,6 +50,9 @@ const std::vector<Shape> flatProducts = {{1, 5, 1}, {5, 1, 5}, {1, 1, 7}, {7, 1,
 const std::vector<Shape> aroundBlocks = {{4, 9, 16}, {5, 2, 17},  {6, 3, 15},   {7, 10, 8},   {8, 16, 24}, {3, 31, 9},
                                          {2, 70, 5}, {1, 130, 3}, {5, 129, 17}, {3, 130, 12}, {2, 129, 20}};
 
+// Right-hand sides with four groups of lanes at once, with one, and with none.
+const std::vector<Shape> aroundRightSides = {{64, 2}, {65, 3}, {256, 2}, {257, 2}};
+
 // One row and one column: loops that run once, and remainders without a whole register.
 const std::vector<Shape> rowsAndColumns = {{2, 1}, {5, 1}, {8, 1}, {9, 1}, {17, 1}, {31, 1},
                                            {1, 2}, {1, 5}, {1, 8}, {1, 9}, {1, 17}};
@@ -125,7 +128,8 @@ const SizeAxes tallSizes = {
                   {33, 9},
                   {40, 2},
                   {33, 33},
-                  {300, 2}}}),
+                  {300, 2}},
+                 aroundRightSides}),
     .small = join({squares(1, 6), {{2, 1}, {5, 3}, {6, 4}}}),
     .tight = join({squares(1, 9), {{2, 1}, {5, 1}, {9, 1}, {4, 3}, {5, 3}, {6, 4}, {7, 2}, {16, 8}, {20, 13}}}),
     .special = {{1, 1}, {3, 3}, {4, 4}, {5, 5}, {6, 6}, {5, 3}},
