@@ -38,7 +38,8 @@ public:
     }
 
     // The same operand without what stands before element (row, column) of `object`.
-    Addresses from(std::ptrdiff_t object, std::ptrdiff_t row = 0, std::ptrdiff_t column = 0) const {
+    [[gnu::always_inline]] Addresses from(std::ptrdiff_t object, std::ptrdiff_t row = 0,
+                                          std::ptrdiff_t column = 0) const {
         Addresses later = *this;
         if (pointers != nullptr) {
             later.pointers += object * pointerStep[0] + row * pointerStep[1] + column * pointerStep[2];
@@ -64,7 +65,7 @@ public:
     // Whether the elements of a row touch.
     bool rowsTouch() const { return pointerStep[2] == 0 && step[2] == static_cast<std::ptrdiff_t>(sizeof(Element)); }
 
-    Element *at(std::ptrdiff_t object, std::ptrdiff_t row, std::ptrdiff_t column) const {
+    [[gnu::always_inline]] Element *at(std::ptrdiff_t object, std::ptrdiff_t row, std::ptrdiff_t column) const {
         const std::ptrdiff_t pointer = object * pointerStep[0] + row * pointerStep[1] + column * pointerStep[2];
         return shifted(pointers != nullptr ? pointers[pointer] : base,
                        offset + object * step[0] + row * step[1] + column * step[2]);

@@ -73,6 +73,18 @@ struct Lanes {
     friend Lanes operator/(Lanes a, Lanes b) { return {a.vector / b.vector}; }
 };
 
+// The first K of four lanes of one, the others of another one.
+template <int K, class T>
+inline Lanes<T, 4> firstLanesOf(Lanes<T, 4> first, Lanes<T, 4> others) {
+    if constexpr (K <= 0) {
+        return others;
+    } else if constexpr (K >= 4) {
+        return first;
+    } else {
+        return {__builtin_shufflevector(first.vector, others.vector, 0, K > 1 ? 1 : 5, K > 2 ? 2 : 6, 7)};
+    }
+}
+
 // The first K of four lanes from memory, the others 0; and back. No other memory is touched.
 template <int K>
 inline Lanes<float, 4> loadFirst(const float *from) {

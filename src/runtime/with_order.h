@@ -10,9 +10,9 @@ namespace lxpm {
 // Returns kernel(order): a constant where the loops of an order are unrolled, 0 for all others.
 // By default the orders with which the solvers are unrolled.
 template <int least = 3, int greatest = 6, class Kernel>
-inline auto withOrder(int order, const Kernel &kernel) {
+[[gnu::always_inline]] inline auto withOrder(int order, const Kernel &kernel) {
     std::invoke_result_t<Kernel, std::integral_constant<int, 0>> result = {};
-    const auto run = [&]<int... above>(std::integer_sequence<int, above...>) {
+    const auto run = [&]<int... above>(std::integer_sequence<int, above...>) __attribute__((always_inline)) {
         return ((order == least + above && (result = kernel(std::integral_constant<int, least + above>()), true)) ||
                 ...);
     };

@@ -2,24 +2,65 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "runtime/addresses.h"
 #include "runtime/groups.h"
+#include "runtime/numbers.h"
 #include "runtime/twice.h"
 
 #include <lxpm/types.h>
 
 #include <cstddef>
+#include <type_traits>
 
 namespace lxpm {
 
-// The objects of one thread in ascending order: whole groups in lanes, what remains one by one; the first status other
-// than lxpStatusOk ends it. withGroup(over) calls over(group): group(lanes, object) computes the objects from that one
-// on in lanes, a Group<T>, and says whether all of them are well. If not, it has written nothing, and they are done
-// again one by one, so that what is written and where it stops are those of single objects.
+// An operand with an object for each of those that are computed.
+template <class Element>
+struct ForObjects {
+    using T = std::remove_const_t<Element>;
+
+    const Addresses<Element> &operand;
+    int rows;
+    int columns;
+
+    auto inLanes() const {
+        if constexpr (std::is_const_v<Element>) {
+            return GroupSource<T>(operand, rows, columns);
+        } else {
+            return GroupDestination<T>(operand, rows, columns);
+        }
+    }
+};
+
+template <class Element>
+ForObjects(const Addresses<Element> &, int, int) -> ForObjects<Element>;
+
+namespace detail {
+
+// A kernel that returns nothing cannot fail.
+template <class Kernel, class... Arguments>
+[[gnu::always_inline]] inline bool isDoneBy(const Kernel &kernel, const Arguments &...arguments) {
+    if constexpr (std::is_void_v<std::invoke_result_t<const Kernel &, const Arguments &...>>) {
+        kernel(arguments...);
+        return true;
+    } else {
+        return kernel(arguments...);
+    }
+}
+
+} // namespace detail
+
+// The objects of one thread in ascending order: whole groups in lanes if they fit, what remains one by one; the first
+// status other than lxpStatusOk ends it. kernel(lanes, object, operands...) computes the objects from that one on in
+// lanes, a Group<T>, and says whether all of them are well. If not, it has written nothing, and they are done again one
+// by one, so that what is written and where it stops are those of single objects. It is given the operands for reading
+// into lanes and writing from them.
 //
-// atOnce: 1, 2 or 4 groups side by side, in a SideBySide<Group<T>, atOnce>, as long as there are as many; then half of
-// that, and so on.
-template <class T, int atOnce = 1, class WithGroup, class One>
-LxpStatus byGroups(bool fitsLanes, int first, int count, const WithGroup &withGroup, const One &one) {
+// Order: known, or 0. atOnce: 1, 2 or 4 groups side by side, in a SideBySide<Group<T>, atOnce>, as long as there are as
+// many; then half of that, and so on.
+template <class T, int Order, int atOnce = 1, class Kernel, class One, class... Elements>
+LxpStatus byGroups(bool fitsLanes, int first, int count, const Kernel &kernel, const One &one,
+                   const ForObjects<Elements> &...operands) {
     const std::ptrdiff_t end = std::ptrdiff_t(first) + count;
     std::ptrdiff_t object = first;
     LxpStatus status = lxpStatusOk;
@@ -28,27 +69,27 @@ LxpStatus byGroups(bool fitsLanes, int first, int count, const WithGroup &withGr
             status = one(object);
         }
     };
-    const auto inLanes = [&](auto lanes, const auto &group) __attribute__((always_inline)) {
+    const auto inLanes = [&](auto lanes, const auto &...views) __attribute__((always_inline)) {
         constexpr int width = NumberOf<decltype(lanes)>::lanes;
         while (object + width <= end && status == lxpStatusOk) {
-            if (group(lanes, object)) {
+            if (detail::isDoneBy(kernel, lanes, object, views...)) {
                 object += width;
             } else {
                 oneByOne(object + width);
             }
         }
     };
-    const auto overGroups = [&](const auto &group) {
+    const auto overGroups = [&](const auto &...views) {
         if constexpr (atOnce >= 4) {
-            inLanes(SideBySide<Group<T>, 4>(), group);
+            inLanes(SideBySide<Group<T>, 4>(), views...);
         }
         if constexpr (atOnce >= 2) {
-            inLanes(SideBySide<Group<T>, 2>(), group);
+            inLanes(SideBySide<Group<T>, 2>(), views...);
         }
-        inLanes(Group<T>(), group);
+        inLanes(Group<T>(), views...);
     };
     if (fitsLanes && count >= groupSize<T>) {
-        withGroup(overGroups);
+        withPlain<Order>(overGroups, operands.inLanes()...);
     }
     oneByOne(end);
     return status;

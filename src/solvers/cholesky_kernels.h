@@ -58,7 +58,7 @@ template <class V>
 // Row by row; the factor may be where the source is. Returns the number of rows in front of the first one whose
 // diagonal value is not positive, in any lane; the order if there is none. Of that row all but the diagonal is there.
 template <int Order, class V, class Source, class Factor>
-[[gnu::always_inline]] inline int factorize(const Source &a, const Factor &l, int order) {
+[[gnu::always_inline]] inline int factorize(const Source &a, Factor &l, int order) {
     const int n = Order != 0 ? Order : order;
     int done = n;
     overRange<Order>(
@@ -73,14 +73,14 @@ template <int Order, class V, class Source, class Factor>
                     overRange<Order>(
                         0, j, [&](int k) __attribute__((always_inline)) { element = element - l(i, k) * l(j, k); });
                     element = element * l(j, j);
-                    l(i, j) = element;
+                    l.put(i, j, element);
                     d = d - element * element;
                 });
             if (any(isLessEqual(d, constant<V>(0)))) {
                 done = i;
                 return;
             }
-            l(i, i) = reciprocalRoot(d);
+            l.put(i, i, reciprocalRoot(d));
         });
     return done;
 }
@@ -90,6 +90,10 @@ struct Decomposition {
     int order;
     Addresses<const T> source;
     Addresses<T> destination;
+
+    Decomposition ofObject(std::ptrdiff_t object) const {
+        return {order, source.from(object), destination.from(object)};
+    }
 };
 
 template <class T, int Order, class Source, class Destination>
@@ -105,43 +109,56 @@ bool decomposeGroup(const Source &source, const Destination &destination, int or
     return true;
 }
 
-template <class T, int Order>
-LxpStatus decomposeOne(const Addresses<const T> &source, const Addresses<T> &destination, int order) {
-    const int n = Order != 0 ? Order : order;
-    int done;
-    if (source.rowsTouch() && destination.rowsTouch()) {
-        done = factorize<Order, T>(touchingMatrix(source), touchingMatrix(destination), n);
-    } else if (n <= largestCopied) {
-        T a[Order != 0 ? Order * Order : largestGroup];
-        copyMatrix<Part::LowerTriangle>(source, plainMatrix(a, n), n, n);
-        const TouchingMatrix<T> matrix = {a, n};
-        done = factorize<Order, T>(matrix, matrix, n);
-        copyMatrix<Part::LowerTriangle>(plainMatrix<const T>(a, n), destination, done, n);
-        for (int j = 0; j < done && done < n; ++j) {
-            *destination.at(0, done, j) = matrix(done, j);
-        }
-    } else {
-        done = factorize<Order, T>(AnyMatrix<const T>{source}, AnyMatrix<T>{destination}, n);
+constexpr LxpStatus statusOf(int done, int order) {
+    return done < order ? lxpStatusNotPosDefErr : lxpStatusOk;
+}
+
+template <class T, int Order, class Source, class Destination>
+LxpStatus decomposeRows(const Source &source, const Destination &destination) {
+    KeptMatrix<T, Order, Destination> factor(destination);
+    return statusOf(factorize<Order, T>(source, factor, Order), Order);
+}
+
+template <class T>
+[[gnu::noinline]] LxpStatus decomposeAnyOrder(Decomposition<T> call) {
+    const auto &[n, source, destination] = call;
+    const bool rowsTouch = source.rowsTouch() && destination.rowsTouch();
+    if (rowsTouch || n > largestCopied) {
+        return withMatrices(
+            [&](const auto &a, const auto &l) { return statusOf(factorize<0, T>(a, l, call.order), call.order); },
+            source, destination);
     }
-    return done < n ? lxpStatusNotPosDefErr : lxpStatusOk;
+    T a[largestGroup];
+    copyMatrix<Part::LowerTriangle>(source, plainMatrix(a, n), n, n);
+    const TouchingMatrix<T> matrix = {a, n};
+    const int done = factorize<0, T>(matrix, matrix, n);
+    copyMatrix<Part::LowerTriangle>(plainMatrix<const T>(a, n), destination, done, n);
+    for (int j = 0; j < done && done < n; ++j) {
+        *destination.at(0, done, j) = matrix(done, j);
+    }
+    return statusOf(done, n);
+}
+
+// Object 0.
+template <class T, int Order>
+[[gnu::always_inline]] inline LxpStatus decomposeOne(const Decomposition<T> &call) {
+    if constexpr (Order != 0) {
+        return withMatrices([&](const auto &from, const auto &to) { return decomposeRows<T, Order>(from, to); },
+                            call.source, call.destination);
+    } else {
+        return decomposeAnyOrder<T>(call);
+    }
 }
 
 template <class T, int Order>
 LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto withGroup = [&](const auto &over) {
-        withPlain<Order>(
-            [&](const auto &source, const auto &destination) {
-                over([&](auto, std::ptrdiff_t object) {
-                    return decomposeGroup<T, Order>(source, destination, n, object);
-                });
-            },
-            GroupSource<T>(call.source, n, n), GroupDestination<T>(call.destination, n, n));
+    const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &source, const auto &destination) {
+        return decomposeGroup<T, Order>(source, destination, n, object);
     };
-    const auto one = [&](std::ptrdiff_t object) {
-        return decomposeOne<T, Order>(call.source.from(object), call.destination.from(object), n);
-    };
-    return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
+    const auto one = [&](std::ptrdiff_t object) { return decomposeOne<T, Order>(call.ofObject(object)); };
+    return byGroups<T, Order>(n <= largestCopied, first, count, inLanes, one, ForObjects{call.source, n, n},
+                              ForObjects{call.destination, n, n});
 }
 
 template <class T>
@@ -177,6 +194,10 @@ struct Substitution {
     Addresses<const T> factors;
     Addresses<const T> right;
     Addresses<T> solution;
+
+    Substitution ofObject(std::ptrdiff_t object) const {
+        return {order, factors.from(object), right.from(object), solution.from(object)};
+    }
 };
 
 // Factors and right-hand sides in lanes.
@@ -193,50 +214,30 @@ void substituteGroup(const Source &factors, const Source &right, const Destinati
     solution.template store<Order != 0, Order>(object, x);
 }
 
+// Object 0.
 template <class T, int Order>
-void substituteOne(const Substitution<T> &call, std::ptrdiff_t object) {
+[[gnu::always_inline]] inline LxpStatus substituteOne(const Substitution<T> &call) {
     const int n = Order != 0 ? Order : call.order;
-    const auto right = call.right.from(object);
-    const auto solution = call.solution.from(object);
-    const auto factors = call.factors.from(object);
     const auto solve = [&](const auto &l, auto &&x) __attribute__((always_inline)) {
         overRange<Order>(
-            0, n, [&](int i) __attribute__((always_inline)) { x[i] = *right.at(0, 0, i); });
+            0, n, [&](int i) __attribute__((always_inline)) { x[i] = *call.right.at(0, 0, i); });
         substitute<Order, T>(l, x, n);
     };
-    if (n > largestGroup) {
-        withLargeMatrix(factors, [&](const auto &l) { solve(l, AnyVector<T>{solution}); });
-        return;
-    }
-    T copy[Order != 0 ? Order * Order : largestGroup];
-    T x[Order != 0 ? Order : largestGroup];
-    withMatrix<Part::LowerTriangle>(
-        factors, n, n, copy, [&](const auto &l) __attribute__((always_inline)) { solve(l, x); });
-    for (int i = 0; i < n; ++i) {
-        *solution.at(0, 0, i) = x[i];
-    }
+    solveOne<Order, Part::LowerTriangle>(call.factors, n, call.solution, solve);
+    return lxpStatusOk;
 }
 
 template <class T, int Order>
 LxpStatus substituteObjects(const Substitution<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto one = [&](std::ptrdiff_t object) {
-        substituteOne<T, Order>(call, object);
-        return lxpStatusOk;
-    };
+    const auto one = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.ofObject(object)); };
     if (!call.factors.isSingle()) {
-        const auto withGroup = [&](const auto &over) {
-            withPlain<Order>(
-                [&](const auto &factors, const auto &right, const auto &solution) {
-                    over([&](auto, std::ptrdiff_t object) {
-                        substituteGroup<T, Order>(factors, right, solution, n, object);
-                        return true;
-                    });
-                },
-                GroupSource<T>(call.factors, n, n), GroupSource<T>(call.right, 1, n),
-                GroupDestination<T>(call.solution, 1, n));
+        const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &factors, const auto &right,
+                                 const auto &solution) {
+            substituteGroup<T, Order>(factors, right, solution, n, object);
         };
-        return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
+        return byGroups<T, Order>(n <= largestCopied, first, count, inLanes, one, ForObjects{call.factors, n, n},
+                                  ForObjects{call.right, 1, n}, ForObjects{call.solution, 1, n});
     }
     LxpStatus status = lxpStatusOk;
     T copy[Order != 0 ? Order * Order : largestGroup];
@@ -265,14 +266,16 @@ LxpStatus CholeskyDecompMember<operands, T, memory>::run(const Arguments &argume
     }
     const auto &[source, destination, size, number] = arguments.parts;
     const int n = size.width();
-    const int count = number.value;
 
-    bool parallel = false;
+    const detail::cholesky::Decomposition<T> call = {n, source.addresses(n, n), destination.addresses(n, n)};
     if constexpr (isArray) {
-        parallel = rowOf<CholeskyDecompMember, detail::cholesky::thresholds>.isParallel(
+        const int count = number.value;
+        const bool parallel = rowOf<CholeskyDecompMember, detail::cholesky::thresholds>.isParallel(
             Work(n) * n * count, source.isContiguous() && destination.isContiguous());
+        return detail::cholesky::decompose<T>(parallel, count, call);
+    } else {
+        return withOrder(n, [&](auto order) { return detail::cholesky::decomposeOne<T, order>(call); });
     }
-    return detail::cholesky::decompose<T>(parallel, count, {n, source.addresses(n, n), destination.addresses(n, n)});
 }
 
 template <Code operands, class T, Layout memory>
@@ -282,17 +285,19 @@ LxpStatus CholeskyBackSubstMember<operands, T, memory>::run(const Arguments &arg
     }
     const auto &[factors, right, destination, size, number] = arguments.parts;
     const int n = size.width();
-    const int count = number.value;
 
-    bool parallel = false;
+    const detail::cholesky::Substitution<T> call = {n, factors.addresses(n, n), right.addresses(1, n),
+                                                    destination.addresses(1, n)};
     if constexpr (isArray) {
         constexpr Kind matrix = operands[0];
+        const int count = number.value;
         const Work work = matrix.array ? (Work(n) + 2) * n * count : (Work(n) + Work(2) * count) * n;
-        parallel = rowOf<CholeskyBackSubstMember, detail::cholesky::thresholds>.isParallel(
+        const bool parallel = rowOf<CholeskyBackSubstMember, detail::cholesky::thresholds>.isParallel(
             work, factors.isContiguous() && right.isContiguous() && destination.isContiguous());
+        return detail::cholesky::substituteAll<T>(parallel, count, call);
+    } else {
+        return withOrder(n, [&](auto order) { return detail::cholesky::substituteOne<T, order>(call); });
     }
-    return detail::cholesky::substituteAll<T>(
-        parallel, count, {n, factors.addresses(n, n), right.addresses(1, n), destination.addresses(1, n)});
 }
 
 } // namespace lxpm

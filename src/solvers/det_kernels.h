@@ -10,6 +10,7 @@
 #include "solvers/by_groups.h"
 #include "solvers/det.h"
 #include "solvers/elimination.h"
+#include "solvers/register_rows.h"
 #include "solvers/scratch.h"
 
 #include <cstddef>
@@ -58,25 +59,25 @@ public:
     using Number = typename Rows::Number;
     using Rows::Rows;
 
-    template <class Position>
-    [[gnu::always_inline]] void bringUp(int k, Position position) {
-        sign = choose(Rows::moves(position, k), negated(sign), sign);
-        Rows::bringUp(k, position);
+    template <class K, class Pivot>
+    [[gnu::always_inline]] void bringUp(K k, Pivot pivot) {
+        sign = choose(Rows::moves(pivot, k), negated(sign), sign);
+        Rows::bringUp(k, pivot);
     }
 
     Number sign = constant<Number>(1);
 };
 
 // Larger orders, by elimination in place: the product of the pivots, in ascending order. A pivot of zero makes it 0.
-template <int Order, class Rows>
-[[gnu::always_inline]] inline bool multiplyPivots(SignedRows<Rows> &rows, int order, typename Rows::Number &product) {
-    const int n = Order != 0 ? Order : order;
-    if (eliminate<Order, DeterminantRules>(rows, n) < n) {
+template <class Rows>
+[[gnu::always_inline]] inline bool multiplyPivots(SignedRows<Rows> &rows, typename Rows::Number &product) {
+    const int n = rows.order();
+    if (eliminate<DeterminantRules>(rows) < n) {
         return false;
     }
     product = rows.sign;
-    overRange<Order>(
-        0, n, [&](int k) __attribute__((always_inline)) { product = product * rows(k, k); });
+    overRange<Rows::knownOrder>(
+        0, n, [&](auto k) __attribute__((always_inline)) { product = product * rows(k, k); });
     return true;
 }
 
@@ -98,7 +99,7 @@ bool determinantsOfGroup(const Source &source, int order, T *results, std::ptrdi
     } else {
         Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
         SignedRows<LaneRows<T, Order>> rows(a, rowNumbers, n);
-        if (!multiplyPivots<Order>(rows, n, result)) {
+        if (!multiplyPivots(rows, result)) {
             return false;
         }
     }
@@ -106,19 +107,35 @@ bool determinantsOfGroup(const Source &source, int order, T *results, std::ptrdi
     return true;
 }
 
-template <class T, int Order>
-T determinantOf(const Addresses<const T> &source, int order, T *copy) {
-    const int n = Order != 0 ? Order : order;
-    copyMatrix<Part::Whole>(source, plainMatrix(copy, n), n, n);
-    const TouchingMatrix<T> a = {copy, n};
-    if constexpr (Order != 0 && Order <= 4) {
+template <class T, int Order, class Matrix>
+T determinantOfSmall(const Matrix &a) {
+    if constexpr (Order <= 4) {
         return expand<Order, T>(a);
     } else {
-        int small[largestCopied];
-        int *const rowNumbers = n <= largestCopied ? small : reinterpret_cast<int *>(copy + std::ptrdiff_t(n) * n);
-        SignedRows<IndexedRows<T, Order, TouchingMatrix<T>>> rows(a, rowNumbers, n);
+        SignedRows<RegisterRows<T, Order>> rows(a);
         T result = 0;
-        return multiplyPivots<Order>(rows, n, result) ? result : 0;
+        return multiplyPivots(rows, result) ? result : 0;
+    }
+}
+
+template <class T>
+[[gnu::noinline]] T determinantOfAnyOrder(Addresses<const T> source, int n, T *copy) {
+    copyMatrix<Part::Whole>(source, plainMatrix(copy, n), n, n);
+    const TouchingMatrix<T> a = {copy, n};
+    int small[largestCopied];
+    int *const rowNumbers = n <= largestCopied ? small : reinterpret_cast<int *>(copy + std::ptrdiff_t(n) * n);
+    SignedRows<IndexedRows<T, 0, TouchingMatrix<T>>> rows(a, rowNumbers, n);
+    T result = 0;
+    return multiplyPivots(rows, result) ? result : 0;
+}
+
+// Of object 0. `copy` is for orders without a kernel of their own.
+template <class T, int Order>
+[[gnu::always_inline]] inline T determinantOf(const Addresses<const T> &source, int n, T *copy) {
+    if constexpr (Order != 0) {
+        return withMatrices([](const auto &a) { return determinantOfSmall<T, Order>(a); }, source);
+    } else {
+        return determinantOfAnyOrder<T>(source, n, copy);
     }
 }
 
@@ -131,25 +148,25 @@ std::size_t scratchOf(int order) {
 template <class T, int Order>
 LxpStatus determinantsOf(const Determinants<T> &call, T *copy, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto withGroup = [&](const auto &over) {
-        withPlain<Order>(
-            [&](const auto &source) {
-                over([&](auto, std::ptrdiff_t object) {
-                    return determinantsOfGroup<T, Order>(source, n, call.results, object);
-                });
-            },
-            GroupSource<T>(call.source, n, n));
+    const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &source) {
+        return determinantsOfGroup<T, Order>(source, n, call.results, object);
     };
     const auto one = [&](std::ptrdiff_t object) {
         call.results[object] = determinantOf<T, Order>(call.source.from(object), n, copy);
         return lxpStatusOk;
     };
-    return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
+    return byGroups<T, Order>(n <= largestCopied, first, count, inLanes, one, ForObjects{call.source, n, n});
+}
+
+// Calls the kernel of an order.
+template <class Kernel>
+[[gnu::always_inline]] inline LxpStatus withOrderOf(int order, const Kernel &kernel) {
+    return withOrder<1, 6>(order, kernel);
 }
 
 template <class T>
 LxpStatus determinantsOf(const Determinants<T> &call, T *copy, int first, int count) {
-    return withOrder<1, 6>(call.order, [&](auto order) { return determinantsOf<T, order>(call, copy, first, count); });
+    return withOrderOf(call.order, [&](auto order) { return determinantsOf<T, order>(call, copy, first, count); });
 }
 
 template <class T>
@@ -169,6 +186,17 @@ LxpStatus determinants(bool parallel, int count, const Determinants<T> &call) {
     });
 }
 
+// Of one matrix alone.
+template <class T, int Order>
+[[gnu::always_inline]] inline LxpStatus determinant(const Determinants<T> &call) {
+    if constexpr (Order != 0) {
+        *call.results = determinantOf<T, Order>(call.source, Order, nullptr);
+        return lxpStatusOk;
+    } else {
+        return determinants<T>(false, 1, Determinants<T>(call));
+    }
+}
+
 } // namespace detail::det
 
 template <Code operands, class T, Layout memory>
@@ -180,8 +208,13 @@ LxpStatus DetMember<operands, T, memory>::run(const Arguments &arguments) {
     const int n = size.width();
     const int count = number.value;
 
-    const bool parallel = isArray && detail::det::threshold.isParallel(Work(n) * n * count);
-    return detail::det::determinants<T>(parallel, count, {n, source.addresses(n, n), results.first});
+    const detail::det::Determinants<T> call = {n, source.addresses(n, n), results.first};
+    if constexpr (isArray) {
+        const bool parallel = detail::det::threshold.isParallel(Work(n) * n * count);
+        return detail::det::determinants<T>(parallel, count, call);
+    } else {
+        return detail::det::withOrderOf(n, [&](auto order) { return detail::det::determinant<T, order>(call); });
+    }
 }
 
 } // namespace lxpm

@@ -50,11 +50,26 @@ struct DeterminantRules {
 template <int Order>
 using RulesOf = std::conditional_t<Order == 0, AnyOrderRules, SmallOrderRules>;
 
+// Position: what tells the pivot's row from the others.
 template <class V, class Position>
 struct Pivot {
     V magnitude;
     Position position;
 };
+
+// The pivot of column k of one object: candidate(i) is the element of row i.
+template <int Order, class T, class K, class Candidate>
+[[gnu::always_inline]] inline Pivot<T, int> firstLargest(K k, int order, const Candidate &candidate) {
+    Pivot<T, int> pivot = {magnitude(candidate(k)), k};
+    overRange<Order>(
+        k + 1, order, [&](auto i) __attribute__((always_inline)) {
+            const T other = magnitude(candidate(i));
+            const bool isLarger = pivot.magnitude < other;
+            pivot.magnitude = isLarger ? other : pivot.magnitude;
+            pivot.position = isLarger ? i : pivot.position;
+        });
+    return pivot;
+}
 
 // Rows of an object or of a group, of known or (0) any other order.
 
@@ -63,6 +78,7 @@ template <class T, int Order, class Matrix>
 class IndexedRows {
 public:
     using Number = T;
+    static constexpr int knownOrder = Order;
 
     IndexedRows(const Matrix &matrix, int *rowNumbers, int order) : a(matrix), index(rowNumbers), anyOrder(order) {
         for (int i = 0; i < order; ++i) {
@@ -72,27 +88,21 @@ public:
 
     T &operator()(int i, int j) const { return a(index[i], j); }
 
-    int order() const { return Order != 0 ? Order : anyOrder; }
+    [[gnu::always_inline]] int order() const { return Order != 0 ? Order : anyOrder; }
 
     Pivot<T, int> findPivot(int k) const {
-        Pivot<T, int> pivot = {magnitude((*this)(k, k)), k};
-        overRange<Order>(
-            k + 1, order(), [&](int i) __attribute__((always_inline)) {
-                const T candidate = magnitude((*this)(i, k));
-                const bool isLarger = pivot.magnitude < candidate;
-                pivot.magnitude = isLarger ? candidate : pivot.magnitude;
-                pivot.position = isLarger ? i : pivot.position;
-            });
-        return pivot;
+        return firstLargest<Order, T>(
+            k, order(), [&](int i) __attribute__((always_inline)) { return (*this)(i, k); });
     }
 
-    static bool moves(int position, int k) { return position != k; }
+    static bool moves(Pivot<T, int> pivot, int k) { return pivot.position != k; }
 
-    void bringUp(int k, int position) { std::swap(index[k], index[position]); }
+    void bringUp(int k, Pivot<T, int> pivot) { std::swap(index[k], index[pivot.position]); }
 
-    // Row i minus a multiple of row k, from column `from` on.
-    void subtract(int i, int k, T factor, int from) const {
+    void subtract(int i, int k, T factor) const {
         const int n = order();
+        const int from = k + 1;
+        (*this)(i, k) = factor;
         if constexpr (Order == 0 && std::is_same_v<Matrix, TouchingMatrix<T>>) {
             T *row = &(*this)(i, 0);
             const T *other = &(*this)(k, 0);
@@ -123,6 +133,7 @@ template <class T, int Order>
 class LaneRows {
 public:
     using Number = Group<T>;
+    static constexpr int knownOrder = Order;
 
     LaneRows(Number *elements, Number *rowNumbers, int order) : a(elements), index(rowNumbers), anyOrder(order) {
         for (int i = 0; i < order; ++i) {
@@ -131,34 +142,30 @@ public:
     }
 
     [[gnu::always_inline]] Number &operator()(int i, int j) const { return a[i * order() + j]; }
-    int order() const { return Order != 0 ? Order : anyOrder; }
+    [[gnu::always_inline]] int order() const { return Order != 0 ? Order : anyOrder; }
 
     // Where row k makes room for another one: the first one in which the magnitude is found again.
-    struct Position {
-        MaskOf<Number> moves;
-        Number magnitude;
-    };
+    using Moves = MaskOf<Number>;
 
-    [[gnu::always_inline]] Pivot<Number, Position> findPivot(int k) const {
+    [[gnu::always_inline]] Pivot<Number, Moves> findPivot(int k) const {
         Number ofOthers = constant<Number>(0);
         overRange<Order>(
             k + 1, order(), [&](int i) __attribute__((always_inline)) {
                 ofOthers = larger(magnitude((*this)(i, k)), ofOthers);
             });
         const Number ofRow = magnitude((*this)(k, k));
-        const Number largest = larger(ofOthers, ofRow);
-        return {largest, {isLess(ofRow, ofOthers), largest}};
+        return {larger(ofOthers, ofRow), isLess(ofRow, ofOthers)};
     }
 
-    static MaskOf<Number> moves(Position position, int) { return position.moves; }
+    [[gnu::always_inline]] static Moves moves(Pivot<Number, Moves> pivot, int) { return pivot.position; }
 
-    [[gnu::always_inline]] void bringUp(int k, Position position) {
+    [[gnu::always_inline]] void bringUp(int k, Pivot<Number, Moves> pivot) {
         const int n = order();
         MaskOf<Number> isChosen[Order != 0 ? Order : largestCopied];
-        MaskOf<Number> isLeft = position.moves;
+        MaskOf<Number> isLeft = pivot.position;
         overRange<Order>(
             k + 1, n - 1, [&](int i) __attribute__((always_inline)) {
-                isChosen[i] = both(isLeft, isEqual(magnitude((*this)(i, k)), position.magnitude));
+                isChosen[i] = both(isLeft, isEqual(magnitude((*this)(i, k)), pivot.magnitude));
                 isLeft = without(isLeft, isChosen[i]);
             });
         isChosen[n - 1] = isLeft;
@@ -178,9 +185,10 @@ public:
         exchangeColumn(index, 1);
     }
 
-    [[gnu::always_inline]] void subtract(int i, int k, Number factor, int from) const {
+    [[gnu::always_inline]] void subtract(int i, int k, Number factor) const {
+        (*this)(i, k) = factor;
         overRange<Order>(
-            from, order(), [&](int j) __attribute__((always_inline)) {
+            k + 1, order(), [&](int j) __attribute__((always_inline)) {
                 (*this)(i, j) = (*this)(i, j) - factor * (*this)(k, j);
             });
     }
@@ -193,13 +201,14 @@ private:
 
 // Returns the number of columns in front of the first singular one, of any lane; the order if there is none. A singular
 // column is left as the columns before it made it.
-template <int Order, class Rules, class Rows>
-[[gnu::always_inline]] inline int eliminate(Rows &a, int order) {
+template <class Rules, class Rows>
+[[gnu::always_inline]] inline int eliminate(Rows &a) {
     using V = typename Rows::Number;
-    const int n = Order != 0 ? Order : order;
+    constexpr int Order = Rows::knownOrder;
+    const int n = a.order();
     int done = n;
     overRange<Order>(
-        0, n, [&](int k) __attribute__((always_inline)) {
+        0, n, [&](auto k) __attribute__((always_inline)) {
             if (done < k) {
                 return;
             }
@@ -211,14 +220,12 @@ template <int Order, class Rules, class Rows>
             if (k + 1 == n) {
                 return;
             }
-            a.bringUp(k, pivot.position);
+            a.bringUp(k, pivot);
             const V divisor = a(k, k);
             const V reciprocal = constant<V>(1) / divisor;
             overRange<Order>(
-                k + 1, n, [&](int i) __attribute__((always_inline)) {
-                    const V factor = Rules::usesReciprocal(k) ? a(i, k) * reciprocal : a(i, k) / divisor;
-                    a(i, k) = factor;
-                    a.subtract(i, k, factor, k + 1);
+                k + 1, n, [&](auto i) __attribute__((always_inline)) {
+                    a.subtract(i, k, Rules::usesReciprocal(k) ? a(i, k) * reciprocal : a(i, k) / divisor);
                 });
         });
     return done;

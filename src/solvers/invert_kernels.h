@@ -11,6 +11,7 @@
 #include "solvers/elimination.h"
 #include "solvers/invert.h"
 #include "solvers/lu_substitution.h"
+#include "solvers/register_rows.h"
 #include "solvers/scratch.h"
 
 #include <algorithm>
@@ -41,7 +42,7 @@ bool invertGroup(const Source &source, const Destination &destination, int order
     Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
     source.template load<Order, Order>(object, a);
     LaneRows<T, Order> rows(a, rowNumbers, n);
-    if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
+    if (eliminate<RulesOf<Order>>(rows) < n) {
         return false;
     }
     Group<T> inverse[Order != 0 ? Order * Order : largestGroup];
@@ -99,16 +100,43 @@ inline void storeFirstLanes(Group<T> lanes, int count, T *to) {
 }
 
 // One matrix, columns of the identity in lanes.
-template <class T, int Order>
-LxpStatus invertOne(const Addresses<const T> &source, const Addresses<T> &destination, int order,
-                    const Workspace<T> &workspace) {
-    const int n = Order != 0 ? Order : order;
+
+// Four columns from column `column` on: the elements of row `row`.
+template <class T>
+[[gnu::always_inline]] inline Lanes<T, 4> rowOfIdentity(int row, int column) {
+    static constexpr T rows[15] = {0, 0, 0, 0, 0, 0, 0, 1};
+    return Lanes<T, 4>::load(rows + 7 + column - row);
+}
+
+template <class T, int Order, class Source, class Destination>
+LxpStatus invertRows(const Source &source, const Destination &destination) {
+    using Rows = RegisterRows<T, Order>;
+    Rows rows(source);
+    if (eliminate<SmallOrderRules>(rows) < Order) {
+        return lxpStatusSingularErr;
+    }
+    forEachOf<Rows::parts>([&](auto part) __attribute__((always_inline)) {
+        Lanes<T, 4> x[Order];
+        forEachOf<Order>([&](auto i) __attribute__((always_inline)) {
+            x[i].vector = rowOfIdentity<T>(rows.rowNumber(i), 4 * part).vector;
+        });
+        substitute<Order, Lanes<T, 4>>(rows, x, Order);
+        forEachOf<Order>([&](auto i) __attribute__((always_inline)) {
+            storeSomeOfRow<Rows::template lengthOfPart<part>>(x[i], destination, i, 4 * part);
+        });
+    });
+    return lxpStatusOk;
+}
+
+template <class T>
+[[gnu::noinline]] LxpStatus invertAnyOrder(Addresses<const T> source, Addresses<T> destination, int n,
+                                           const Workspace<T> &workspace) {
     T *const a = workspace.matrix();
     Group<T> *const x = workspace.columns();
     copyMatrix<Part::Whole>(source, plainMatrix(a, n), n, n);
     const TouchingMatrix<T> matrix = {a, n};
-    IndexedRows<T, Order, TouchingMatrix<T>> rows(matrix, workspace.rowNumbers(), n);
-    if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
+    IndexedRows<T, 0, TouchingMatrix<T>> rows(matrix, workspace.rowNumbers(), n);
+    if (eliminate<AnyOrderRules>(rows) < n) {
         return lxpStatusSingularErr;
     }
     const bool rowsTouch = destination.rowsTouch();
@@ -121,7 +149,7 @@ LxpStatus invertOne(const Addresses<const T> &source, const Addresses<T> &destin
             }
             x[i] = Group<T>::load(unit);
         }
-        substitute<Order, Group<T>>(rows, x, n);
+        substitute<0, Group<T>>(rows, x, n);
         for (int i = 0; i < n; ++i) {
             if (rowsTouch) {
                 storeFirstLanes(x[i], columns, destination.at(0, i, column));
@@ -137,21 +165,29 @@ LxpStatus invertOne(const Addresses<const T> &source, const Addresses<T> &destin
     return lxpStatusOk;
 }
 
+// Object 0.
+template <class T, int Order>
+[[gnu::always_inline]] inline LxpStatus invertOne(const Addresses<const T> &source, const Addresses<T> &destination,
+                                                  int n, const Workspace<T> &workspace) {
+    if constexpr (Order != 0) {
+        return withMatrices([](const auto &from, const auto &to) { return invertRows<T, Order>(from, to); }, source,
+                            destination);
+    } else {
+        return invertAnyOrder<T>(source, destination, n, workspace);
+    }
+}
+
 template <class T, int Order>
 LxpStatus invertObjects(const Inversion<T> &call, const Workspace<T> &workspace, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto withGroup = [&](const auto &over) {
-        withPlain<Order>(
-            [&](const auto &source, const auto &destination) {
-                over(
-                    [&](auto, std::ptrdiff_t object) { return invertGroup<T, Order>(source, destination, n, object); });
-            },
-            GroupSource<T>(call.source, n, n), GroupDestination<T>(call.destination, n, n));
+    const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &source, const auto &destination) {
+        return invertGroup<T, Order>(source, destination, n, object);
     };
     const auto one = [&](std::ptrdiff_t object) {
         return invertOne<T, Order>(call.source.from(object), call.destination.from(object), n, workspace);
     };
-    return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
+    return byGroups<T, Order>(n <= largestCopied, first, count, inLanes, one, ForObjects{call.source, n, n},
+                              ForObjects{call.destination, n, n});
 }
 
 template <class T>
@@ -177,6 +213,16 @@ LxpStatus invertAll(bool parallel, int count, const Inversion<T> &call) {
     });
 }
 
+// One matrix alone.
+template <class T, int Order>
+[[gnu::always_inline]] inline LxpStatus invert(const Inversion<T> &call) {
+    if constexpr (Order != 0) {
+        return invertOne<T, Order>(call.source, call.destination, Order, Workspace<T>(nullptr, Order));
+    } else {
+        return invertAll<T>(false, 1, Inversion<T>(call));
+    }
+}
+
 } // namespace detail::invert
 
 template <Code operands, class T, Layout memory>
@@ -188,8 +234,13 @@ LxpStatus InvertMember<operands, T, memory>::run(const Arguments &arguments) {
     const int n = size.width();
     const int count = number.value;
 
-    const bool parallel = isArray && detail::invert::threshold.isParallel(Work(n) * n * count);
-    return detail::invert::invertAll<T>(parallel, count, {n, source.addresses(n, n), destination.addresses(n, n)});
+    const detail::invert::Inversion<T> call = {n, source.addresses(n, n), destination.addresses(n, n)};
+    if constexpr (isArray) {
+        const bool parallel = detail::invert::threshold.isParallel(Work(n) * n * count);
+        return detail::invert::invertAll<T>(parallel, count, call);
+    } else {
+        return withOrder(n, [&](auto order) { return detail::invert::invert<T, order>(call); });
+    }
 }
 
 } // namespace lxpm

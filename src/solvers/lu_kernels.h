@@ -11,6 +11,7 @@
 #include "solvers/elimination.h"
 #include "solvers/lu.h"
 #include "solvers/lu_substitution.h"
+#include "solvers/register_rows.h"
 #include "solvers/right_sides.h"
 
 #include <algorithm>
@@ -96,6 +97,10 @@ struct Decomposition {
     Addresses<const T> source;
     int *index;
     Addresses<T> destination;
+
+    Decomposition ofObject(std::ptrdiff_t object) const {
+        return {order, source.from(object), index + object * order, destination.from(object)};
+    }
 };
 
 template <class T, int Order, class Source, class Destination>
@@ -106,7 +111,7 @@ bool decomposeGroup(const Source &source, const Destination &destination, int or
     Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
     source.template load<Order, Order>(object, a);
     LaneRows<T, Order> rows(a, rowNumbers, n);
-    if (eliminate<Order, RulesOf<Order>>(rows, n) < n) {
+    if (eliminate<RulesOf<Order>>(rows) < n) {
         return false;
     }
     storeIndex(rowNumbers, n, index);
@@ -121,18 +126,15 @@ bool decomposeGroup(const Source &source, const Destination &destination, int or
 }
 
 // Orders with rules of their own work on a copy: what is written of an object that fails are the rows finished before.
-template <class T, int Order>
-LxpStatus decomposeOne(const Addresses<const T> &source, int *index, const Addresses<T> &destination) {
-    T a[Order * Order];
-    int rowNumbers[Order];
-    copyMatrix<Part::Whole>(source, plainMatrix(a, Order), Order, Order);
-    const TouchingMatrix<T> matrix = {a, Order};
-    IndexedRows<T, Order, TouchingMatrix<T>> rows(matrix, rowNumbers, Order);
-    const int done = eliminate<Order, SmallOrderRules>(rows, Order);
-    for (int k = 0; k < done; ++k) {
-        index[k] = rowNumbers[k];
-        copyMatrix<Part::Whole>(plainMatrix<const T>(&rows(k, 0), Order), destination.from(0, rowNumbers[k]), 1, Order);
-    }
+template <class T, int Order, class Source, class Destination>
+LxpStatus decomposeRows(const Source &source, int *index, const Destination &destination) {
+    RegisterRows<T, Order> rows(source);
+    const int done = eliminate<SmallOrderRules>(rows);
+    overRange<Order>(
+        0, done, [&](auto k) __attribute__((always_inline)) {
+            index[k] = rows.rowNumber(k);
+            rows.storeRow(k, destination, rows.rowNumber(k));
+        });
     return done < Order ? lxpStatusSingularErr : lxpStatusOk;
 }
 
@@ -140,11 +142,12 @@ LxpStatus decomposeOne(const Addresses<const T> &source, int *index, const Addre
 template <class T, class Matrix>
 LxpStatus eliminateAnyOrder(const Matrix &matrix, int *index, int n) {
     IndexedRows<T, 0, Matrix> rows(matrix, index, n);
-    return eliminate<0, AnyOrderRules>(rows, n) < n ? lxpStatusSingularErr : lxpStatusOk;
+    return eliminate<AnyOrderRules>(rows) < n ? lxpStatusSingularErr : lxpStatusOk;
 }
 
 template <class T>
-LxpStatus decomposeOne(const Addresses<const T> &source, int *index, const Addresses<T> &destination, int n) {
+[[gnu::noinline]] LxpStatus decomposeAnyOrder(Decomposition<T> call) {
+    const auto &[n, source, index, destination] = call;
     if (!destination.rowsTouch() && n <= largestCopied) {
         T a[largestGroup];
         copyMatrix<Part::Whole>(source, plainMatrix(a, n), n, n);
@@ -153,32 +156,30 @@ LxpStatus decomposeOne(const Addresses<const T> &source, int *index, const Addre
         return status;
     }
     copyMatrix<Part::Whole>(source, destination, n, n);
-    return destination.rowsTouch() ? eliminateAnyOrder<T>(touchingMatrix(destination), index, n)
-                                   : eliminateAnyOrder<T>(AnyMatrix<T>{destination}, index, n);
+    return withMatrices([&](const auto &a) { return eliminateAnyOrder<T>(a, call.index, call.order); }, destination);
+}
+
+// Object 0.
+template <class T, int Order>
+[[gnu::always_inline]] inline LxpStatus decomposeOne(const Decomposition<T> &call) {
+    if constexpr (Order != 0) {
+        return withMatrices(
+            [&](const auto &from, const auto &to) { return decomposeRows<T, Order>(from, call.index, to); },
+            call.source, call.destination);
+    } else {
+        return decomposeAnyOrder<T>(call);
+    }
 }
 
 template <class T, int Order>
 LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto withGroup = [&](const auto &over) {
-        withPlain<Order>(
-            [&](const auto &source, const auto &destination) {
-                over([&](auto, std::ptrdiff_t object) {
-                    return decomposeGroup<T, Order>(source, destination, n, call.index + object * n, object);
-                });
-            },
-            GroupSource<T>(call.source, n, n), GroupDestination<T>(call.destination, n, n));
+    const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &source, const auto &destination) {
+        return decomposeGroup<T, Order>(source, destination, n, call.index + object * n, object);
     };
-    const auto one = [&](std::ptrdiff_t object) {
-        const auto from = call.source.from(object);
-        const auto to = call.destination.from(object);
-        if constexpr (Order != 0) {
-            return decomposeOne<T, Order>(from, call.index + object * n, to);
-        } else {
-            return decomposeOne<T>(from, call.index + object * n, to, n);
-        }
-    };
-    return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
+    const auto one = [&](std::ptrdiff_t object) { return decomposeOne<T, Order>(call.ofObject(object)); };
+    return byGroups<T, Order>(n <= largestCopied, first, count, inLanes, one, ForObjects{call.source, n, n},
+                              ForObjects{call.destination, n, n});
 }
 
 template <class T>
@@ -195,6 +196,11 @@ struct Substitution {
     const int *index;
     Addresses<const T> right;
     Addresses<T> solution;
+
+    Substitution ofObject(std::ptrdiff_t object) const {
+        const int *const indexOfObject = factors.isSingle() ? index : index + object * order;
+        return {order, factors.from(object), indexOfObject, right.from(object), solution.from(object)};
+    }
 };
 
 // Factors and right-hand sides in lanes.
@@ -211,41 +217,27 @@ void substituteGroup(const Source &factors, const Source &right, const Destinati
     solution.template store<Order != 0, Order>(object, x);
 }
 
+// Object 0.
 template <class T, int Order>
-void substituteOne(const Substitution<T> &call, const int *index, std::ptrdiff_t object) {
+[[gnu::always_inline]] inline LxpStatus substituteOne(const Substitution<T> &call) {
     const int n = Order != 0 ? Order : call.order;
-    const auto right = call.right.from(object);
-    const auto solution = call.solution.from(object);
-    const auto factors = call.factors.from(object);
     const auto solve = [&](const auto &a, auto &&x) __attribute__((always_inline)) {
         overRange<Order>(
-            0, n, [&](int i) __attribute__((always_inline)) { x[i] = *right.at(0, 0, index[i]); });
+            0, n, [&](int i) __attribute__((always_inline)) { x[i] = *call.right.at(0, 0, call.index[i]); });
         const auto inPivotOrder = [&](int i, int j) __attribute__((always_inline)) {
-            return a(index[i], j);
+            return a(call.index[i], j);
         };
         substitute<Order, T>(inPivotOrder, x, n);
     };
-    if (n > largestGroup) {
-        withLargeMatrix(factors, [&](const auto &a) { solve(a, AnyVector<T>{solution}); });
-        return;
-    }
-    T copy[Order != 0 ? Order * Order : largestGroup];
-    T x[Order != 0 ? Order : largestGroup];
-    withMatrix<Part::Whole>(
-        factors, n, n, copy, [&](const auto &a) __attribute__((always_inline)) { solve(a, x); });
-    for (int i = 0; i < n; ++i) {
-        *solution.at(0, 0, i) = x[i];
-    }
+    solveOne<Order, Part::Whole>(call.factors, n, call.solution, solve);
+    return lxpStatusOk;
 }
 
 // One matrix, many right-hand sides.
 template <class T, int Order>
 LxpStatus substituteMany(const Substitution<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto oneByOne = [&](std::ptrdiff_t object) {
-        substituteOne<T, Order>(call, call.index, object);
-        return lxpStatusOk;
-    };
+    const auto oneByOne = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.ofObject(object)); };
     const auto inPivotOrder = [index = call.index](int i) { return index[i]; };
     const auto run = [&](const auto &factors) {
         const auto solve = [&]<class V>(V * x) __attribute__((always_inline)) {
@@ -269,23 +261,14 @@ LxpStatus substituteMany(const Substitution<T> &call, int first, int count) {
 template <class T, int Order>
 LxpStatus substituteEach(const Substitution<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto withGroup = [&](const auto &over) {
-        withPlain<Order>(
-            [&](const auto &factors, const auto &right, const auto &solution) {
-                over([&](auto, std::ptrdiff_t object) {
-                    substituteGroup<T, Order>(factors, right, solution, n, call.index + object * n, object);
-                    return true;
-                });
-            },
-            GroupSource<T>(call.factors, n, n),
-            GroupSource<T>(call.right.transposed(), n, 1), // for its rows to be permuted
-            GroupDestination<T>(call.solution, 1, n));
+    const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &factors, const auto &right,
+                             const auto &solution) {
+        substituteGroup<T, Order>(factors, right, solution, n, call.index + object * n, object);
     };
-    const auto one = [&](std::ptrdiff_t object) {
-        substituteOne<T, Order>(call, call.index + object * n, object);
-        return lxpStatusOk;
-    };
-    return byGroups<T>(n <= largestCopied, first, count, withGroup, one);
+    const auto one = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.ofObject(object)); };
+    const auto right = call.right.transposed(); // for its rows to be permuted
+    return byGroups<T, Order>(n <= largestCopied, first, count, inLanes, one, ForObjects{call.factors, n, n},
+                              ForObjects{right, n, 1}, ForObjects{call.solution, 1, n});
 }
 
 template <class T, int Order>
@@ -310,14 +293,15 @@ LxpStatus LUDecompMember<operands, T, memory>::run(const Arguments &arguments) {
     }
     const auto &[source, index, destination, size, number] = arguments.parts;
     const int n = size.width();
-    const int count = number.value;
 
-    bool parallel = false;
+    const detail::lu::Decomposition<T> call = {n, source.addresses(n, n), index.first, destination.addresses(n, n)};
     if constexpr (isArray) {
-        parallel = rowOf<LUDecompMember, detail::lu::thresholds>.isParallel(Work(n) * n * count);
+        const int count = number.value;
+        const bool parallel = rowOf<LUDecompMember, detail::lu::thresholds>.isParallel(Work(n) * n * count);
+        return detail::lu::decompose<T>(parallel, count, call);
+    } else {
+        return withOrder(n, [&](auto order) { return detail::lu::decomposeOne<T, order>(call); });
     }
-    return detail::lu::decompose<T>(parallel, count,
-                                    {n, source.addresses(n, n), index.first, destination.addresses(n, n)});
 }
 
 template <Code operands, class T, Layout memory>
@@ -327,16 +311,18 @@ LxpStatus LUBackSubstMember<operands, T, memory>::run(const Arguments &arguments
     }
     const auto &[factors, index, right, destination, size, number] = arguments.parts;
     const int n = size.width();
-    const int count = number.value;
 
-    bool parallel = false;
+    const detail::lu::Substitution<T> call = {n, factors.addresses(n, n), index.first, right.addresses(1, n),
+                                              destination.addresses(1, n)};
     if constexpr (isArray) {
         constexpr Kind matrix = operands[0];
+        const int count = number.value;
         const Work work = matrix.array ? (Work(n) + 2) * n * count : (Work(n) + Work(2) * count) * n;
-        parallel = rowOf<LUBackSubstMember, detail::lu::thresholds>.isParallel(work);
+        const bool parallel = rowOf<LUBackSubstMember, detail::lu::thresholds>.isParallel(work);
+        return detail::lu::substituteAll<T>(parallel, count, call);
+    } else {
+        return withOrder(n, [&](auto order) { return detail::lu::substituteOne<T, order>(call); });
     }
-    return detail::lu::substituteAll<T>(
-        parallel, count, {n, factors.addresses(n, n), index.first, right.addresses(1, n), destination.addresses(1, n)});
 }
 
 } // namespace lxpm

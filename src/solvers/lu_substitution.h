@@ -14,10 +14,10 @@ namespace lxpm {
 template <int Order, class V, class Factors, class Vector>
 [[gnu::always_inline]] inline void substitute(const Factors &a, Vector &x, int order) {
     const int n = Order != 0 ? Order : order;
-    const auto subtractProducts = [&](int i, int from, int to) __attribute__((always_inline)) {
+    const auto subtractProducts = [&](auto i, int from, int to) __attribute__((always_inline)) {
         if constexpr (Order != 0) {
             overRange<Order>(
-                from, to, [&](int j) __attribute__((always_inline)) { x[i] = x[i] - number<V>(a(i, j)) * x[j]; });
+                from, to, [&](auto j) __attribute__((always_inline)) { x[i] = x[i] - number<V>(a(i, j)) * x[j]; });
         } else {
             V sum = constant<V>(0);
             for (int j = from; j < to; ++j) {
@@ -27,12 +27,12 @@ template <int Order, class V, class Factors, class Vector>
         }
     };
     overRange<Order>(
-        1, n, [&](int i) __attribute__((always_inline)) { subtractProducts(i, 0, i); });
+        1, n, [&](auto i) __attribute__((always_inline)) { subtractProducts(i, 0, i); });
     if constexpr (Order == 0) { // without a sum of nothing, which is not to be subtracted
         x[n - 1] = x[n - 1] / number<V>(a(n - 1, n - 1));
     }
     overRangeDown<Order>(
-        0, Order != 0 ? n : n - 1, [&](int i) __attribute__((always_inline)) {
+        0, Order != 0 ? n : n - 1, [&](auto i) __attribute__((always_inline)) {
             subtractProducts(i, i + 1, n);
             x[i] = x[i] / number<V>(a(i, i));
         });

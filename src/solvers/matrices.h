@@ -6,11 +6,11 @@
 
 #include "runtime/addresses.h"
 #include "runtime/groups.h"
+#include "runtime/lanes.h"
 #include "runtime/with_order.h"
 
 #include <cstddef>
 #include <type_traits>
-#include <utility>
 
 namespace lxpm {
 
@@ -21,25 +21,44 @@ struct TouchingMatrix {
     std::ptrdiff_t rowStep;
 
     Element &operator()(std::ptrdiff_t i, std::ptrdiff_t j) const { return first[i * rowStep + j]; }
+    void put(std::ptrdiff_t i, std::ptrdiff_t j, Element element) const { (*this)(i, j) = element; }
 };
 
 // Object 0 of an operand whose rows touch.
 template <class Element>
-inline TouchingMatrix<Element> touchingMatrix(const Addresses<Element> &operand) {
+[[gnu::always_inline]] inline TouchingMatrix<Element> touchingMatrix(const Addresses<Element> &operand) {
     return {operand.at(0, 0, 0), operand.step[1] / static_cast<std::ptrdiff_t>(sizeof(Element))};
 }
 
-// Object 0 of any operand.
+// Object 0 of any operand. A copy, so that no address is taken of an operand which need not be in memory.
 template <class Element>
 struct AnyMatrix {
-    const Addresses<Element> &operand;
+    Addresses<Element> operand;
 
     Element &operator()(std::ptrdiff_t i, std::ptrdiff_t j) const { return *operand.at(0, i, j); }
+    void put(std::ptrdiff_t i, std::ptrdiff_t j, Element element) const { (*this)(i, j) = element; }
+};
+
+// What is put into a matrix, kept at hand as well: where the order is known, in registers.
+template <class T, int Order, class Matrix>
+class KeptMatrix {
+public:
+    explicit KeptMatrix(const Matrix &matrix) : destination(matrix) {}
+
+    [[gnu::always_inline]] T operator()(int i, int j) const { return kept[i * Order + j]; }
+    [[gnu::always_inline]] void put(int i, int j, T element) {
+        kept[i * Order + j] = element;
+        destination.put(i, j, element);
+    }
+
+private:
+    T kept[Order * Order];
+    Matrix destination;
 };
 
 template <class Element>
 struct AnyVector {
-    const Addresses<Element> &operand;
+    Addresses<Element> operand;
 
     Element &operator[](std::ptrdiff_t i) const { return *operand.at(0, 0, i); }
 };
@@ -74,14 +93,14 @@ inline Addresses<T> plainMatrix(T *first, int columns) {
     return Addresses<T>::strided(first, {0, columns * std::ptrdiff_t(sizeof(T)), sizeof(T)});
 }
 
-// Calls use(matrix) with a view of object 0 of a source too large for a copy: as it stands.
-template <class T, class Use>
-inline void withLargeMatrix(const Addresses<const T> &source, const Use &use) {
-    if (source.rowsTouch()) {
-        use(touchingMatrix(source));
-    } else {
-        use(AnyMatrix<const T>{source});
+// Calls use(matrix) with a view of object 0 of each operand, as it stands: by rows if those of all touch, else element
+// by element.
+template <class Use, class... Elements>
+[[gnu::always_inline]] inline auto withMatrices(const Use &use, const Addresses<Elements> &...operands) {
+    if ((operands.rowsTouch() && ...)) {
+        return use(touchingMatrix(operands)...);
     }
+    return use(AnyMatrix<Elements>{operands}...);
 }
 
 // Calls use(matrix) with a view of object 0 of a source: as it stands if its rows touch, as a copy in `copy` if there
@@ -99,14 +118,16 @@ template <Part part, class T, std::size_t size, class Use>
     }
 }
 
-// Calls f(i) for from <= i < to. Bound: a number above `to` that the loop is to be unrolled for, 0 if it is not.
+// Calls f(i) for from <= i < to. Bound: a number above `to` that the loop is to be unrolled for, with constants, 0 if
+// it is not.
 template <int Bound, class F>
 [[gnu::always_inline]] inline void overRange(int from, int to, const F &f) {
     if constexpr (Bound != 0) {
-        [&]<int... i>(std::integer_sequence<int, i...>) __attribute__((always_inline)) {
-            ((i >= from && i < to ? f(i) : void()), ...);
-        }
-        (std::make_integer_sequence<int, Bound>());
+        forEachOf<Bound>([&](auto i) __attribute__((always_inline)) {
+            if (i >= from && i < to) {
+                f(i);
+            }
+        });
     } else {
         for (int i = from; i < to; ++i) {
             f(i);
@@ -117,8 +138,18 @@ template <int Bound, class F>
 // The same downwards.
 template <int Bound, class F>
 [[gnu::always_inline]] inline void overRangeDown(int from, int to, const F &f) {
-    overRange<Bound>(
-        from, to, [&](int i) __attribute__((always_inline)) { f(to - 1 - (i - from)); });
+    if constexpr (Bound != 0) {
+        forEachOf<Bound>([&](auto i) __attribute__((always_inline)) {
+            constexpr int mirrored = Bound - 1 - i;
+            if (mirrored >= from && mirrored < to) {
+                f(std::integral_constant<int, mirrored>());
+            }
+        });
+    } else {
+        for (int i = to - 1; i >= from; --i) {
+            f(i);
+        }
+    }
 }
 
 } // namespace lxpm

@@ -145,6 +145,10 @@ struct Decomposition {
     Size size;
     Addresses<const T> source;
     Addresses<T> destination;
+
+    Decomposition ofObject(std::ptrdiff_t object) const {
+        return {size, source.from(object), destination.from(object)};
+    }
 };
 
 template <class T, int Order, class Source, class Destination>
@@ -159,44 +163,61 @@ bool decomposeGroup(const Source &source, const Destination &destination, Size s
     return true;
 }
 
-template <class T, int Order>
-LxpStatus decomposeOne(const Addresses<const T> &source, const Addresses<T> &destination, Size size) {
-    const auto statusOf = [&](int done) { return done < size.reflectors() ? lxpStatusDivByZeroErr : lxpStatusOk; };
+constexpr LxpStatus statusOf(int done, Size size) {
+    return done < size.reflectors() ? lxpStatusDivByZeroErr : lxpStatusOk;
+}
+
+template <class T, int Order, class Source, class Destination>
+LxpStatus decomposeSmall(const Source &source, const Destination &destination) {
+    constexpr Size size = {Order, Order};
+    T a[Order * Order];
+    forEachOf<Order * Order>([&](auto k) __attribute__((always_inline)) { a[k] = source(k / Order, k % Order); });
+    const LxpStatus status = statusOf(reflect<Order, T>(TouchingMatrix<T>{a, Order}, size), size);
+    forEachOf<Order * Order>([&](auto k) __attribute__((always_inline)) { destination(k / Order, k % Order) = a[k]; });
+    return status;
+}
+
+template <class T>
+[[gnu::noinline]] LxpStatus decomposeAnySize(Decomposition<T> call) {
+    const auto &[size, source, destination] = call;
     if (!destination.rowsTouch() && size.fits(largestGroup)) {
-        T a[Order != 0 ? Order * Order : largestGroup];
+        T a[largestGroup];
         copyMatrix<Part::Whole>(source, plainMatrix(a, size.width), size.height, size.width);
-        const LxpStatus status = statusOf(reflect<Order, T>(TouchingMatrix<T>{a, size.width}, size));
+        const LxpStatus status = statusOf(reflect<0, T>(TouchingMatrix<T>{a, size.width}, size), size);
         copyMatrix<Part::Whole>(plainMatrix<const T>(a, size.width), destination, size.height, size.width);
         return status;
     }
     copyMatrix<Part::Whole>(source, destination, size.height, size.width);
-    return statusOf(destination.rowsTouch() ? reflect<Order, T>(touchingMatrix(destination), size)
-                                            : reflect<Order, T>(AnyMatrix<T>{destination}, size));
+    return withMatrices([&](const auto &a) { return statusOf(reflect<0, T>(a, call.size), call.size); }, destination);
+}
+
+// Object 0.
+template <class T, int Order>
+[[gnu::always_inline]] inline LxpStatus decomposeOne(const Decomposition<T> &call) {
+    if constexpr (Order != 0) {
+        return withMatrices([](const auto &from, const auto &to) { return decomposeSmall<T, Order>(from, to); },
+                            call.source, call.destination);
+    } else {
+        return decomposeAnySize<T>(call);
+    }
 }
 
 // Calls the kernel of the size's order.
 template <class Kernel>
-LxpStatus withOrderOf(Size size, const Kernel &kernel) {
+[[gnu::always_inline]] inline LxpStatus withOrderOf(Size size, const Kernel &kernel) {
     return withOrder(size.width == size.height ? size.width : 0, kernel);
 }
 
 template <class T, int Order>
 LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const Size size = call.size;
-    const auto withGroup = [&](const auto &over) {
-        withPlain<Order>(
-            [&](const auto &source, const auto &destination) {
-                over([&](auto, std::ptrdiff_t object) {
-                    return decomposeGroup<T, Order>(source, destination, size, object);
-                });
-            },
-            GroupSource<T>(call.source, size.height, size.width),
-            GroupDestination<T>(call.destination, size.height, size.width));
+    const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &source, const auto &destination) {
+        return decomposeGroup<T, Order>(source, destination, size, object);
     };
-    const auto one = [&](std::ptrdiff_t object) {
-        return decomposeOne<T, Order>(call.source.from(object), call.destination.from(object), size);
-    };
-    return byGroups<T>(size.fits(largestGroup), first, count, withGroup, one);
+    const auto one = [&](std::ptrdiff_t object) { return decomposeOne<T, Order>(call.ofObject(object)); };
+    return byGroups<T, Order>(size.fits(largestGroup), first, count, inLanes, one,
+                              ForObjects{call.source, size.height, size.width},
+                              ForObjects{call.destination, size.height, size.width});
 }
 
 template <class T>
@@ -242,6 +263,10 @@ struct Substitution {
     T *buffer; // the caller's, of `height` elements
     Addresses<const T> right;
     Addresses<T> solution;
+
+    Substitution ofObject(std::ptrdiff_t object) const {
+        return {size, factors.from(object), buffer, right.from(object), solution.from(object)};
+    }
 };
 
 // Factors and right-hand sides in lanes.
@@ -260,53 +285,63 @@ void substituteGroup(const Source &factors, const Source &right, const Destinati
     solution.template store<Order != 0, Order>(object, x);
 }
 
-template <class T, int Order>
-void substituteOne(const Substitution<T> &call, T *x, std::ptrdiff_t object) {
-    const Size size = sizeOf<Order>(call.size);
-    const auto right = call.right.from(object);
-    const auto solution = call.solution.from(object);
+// One right-hand side in x.
+template <int Order, class T, class Matrix, class Vector>
+[[gnu::always_inline]] inline void substituteOne(const Matrix &a, Vector &x, Size size) {
+    const auto scale = [&](int k) __attribute__((always_inline)) {
+        return scaleOf<Order, T>(a, k, size.height);
+    };
+    substitute<Order, T>(a, x, size, scale);
+}
+
+template <class T>
+[[gnu::noinline]] void substituteAnySize(Substitution<T> call, T *x) {
+    const Size size = call.size;
     for (int i = 0; i < size.height; ++i) {
-        x[i] = *right.at(0, 0, i);
+        x[i] = *call.right.at(0, 0, i);
     }
-    T copy[Order != 0 ? Order * Order : largestGroup];
-    withMatrix<Part::Whole>(
-        call.factors.from(object), size.height, size.width, copy, [&](const auto &a) __attribute__((always_inline)) {
-            const auto scale = [&](int k) __attribute__((always_inline)) {
-                return scaleOf<Order, T>(a, k, size.height);
-            };
-            substitute<Order, T>(a, x, size, scale);
-        });
+    T copy[largestGroup];
+    withMatrix<Part::Whole>(call.factors, size.height, size.width, copy,
+                            [&](const auto &a) { substituteOne<0, T>(a, x, size); });
     for (int i = 0; i < size.width; ++i) {
-        *solution.at(0, 0, i) = x[i];
+        *call.solution.at(0, 0, i) = x[i];
     }
+}
+
+// Object 0. x: memory for `height` elements, where the order has no kernel of its own.
+template <class T, int Order>
+[[gnu::always_inline]] inline LxpStatus substituteOne(const Substitution<T> &call, T *x) {
+    if constexpr (Order != 0) {
+        solveOne<Order, Part::Whole>(
+            call.factors, Order, call.solution, [&](const auto &a, auto &elements) __attribute__((always_inline)) {
+                forEachOf<Order>([&](auto i) __attribute__((always_inline)) { elements[i] = *call.right.at(0, 0, i); });
+                substituteOne<Order, T>(a, elements, Size{Order, Order});
+            });
+    } else {
+        substituteAnySize<T>(call, x);
+    }
+    return lxpStatusOk;
 }
 
 template <class T, int Order>
 LxpStatus substituteObjects(const Substitution<T> &call, T *x, int first, int count) {
     const Size size = sizeOf<Order>(call.size);
-    const auto one = [&](std::ptrdiff_t object) {
-        substituteOne<T, Order>(call, x, object);
-        return lxpStatusOk;
-    };
+    const auto one = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.ofObject(object), x); };
     if (!call.factors.isSingle() || count < groupSize<T>) {
-        const auto withGroup = [&](const auto &over) {
-            withPlain<Order>(
-                [&](const auto &factors, const auto &right, const auto &solution) {
-                    over([&](auto, std::ptrdiff_t object) {
-                        substituteGroup<T, Order>(factors, right, solution, size, object);
-                        return true;
-                    });
-                },
-                GroupSource<T>(call.factors, size.height, size.width), GroupSource<T>(call.right, 1, size.height),
-                GroupDestination<T>(call.solution, 1, size.width));
+        const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &factors, const auto &right,
+                                 const auto &solution) {
+            substituteGroup<T, Order>(factors, right, solution, size, object);
         };
-        return byGroups<T>(size.fits(largestGroup), first, count, withGroup, one);
+        return byGroups<T, Order>(size.fits(largestGroup), first, count, inLanes, one,
+                                  ForObjects{call.factors, size.height, size.width},
+                                  ForObjects{call.right, 1, size.height}, ForObjects{call.solution, 1, size.width});
     }
     LxpStatus status = lxpStatusOk;
     T copy[Order != 0 ? Order * Order : largestGroup];
     withMatrix<Part::Whole>(call.factors, size.height, size.width, copy, [&](const auto &a) {
         T scales[Order != 0 ? Order : largestGroup];
-        for (int k = 0; k < size.reflectors() && size.height <= largestGroup; ++k) {
+        const int scalesNeeded = size.height <= largestGroup ? size.reflectors() : 0; // in lanes only
+        for (int k = 0; k < scalesNeeded; ++k) {
             scales[k] = scaleOf<Order, T>(a, k, size.height);
         }
         const auto scale = [&](int k) __attribute__((always_inline)) {
@@ -336,6 +371,16 @@ LxpStatus substituteAll(bool parallel, int count, const Substitution<T> &call) {
                       [&](const Share &share) { return run(share.scratchOr(call.buffer), share.first, share.count); });
 }
 
+// With one right-hand side alone.
+template <class T, int Order>
+[[gnu::always_inline]] inline LxpStatus substitute(const Substitution<T> &call) {
+    if constexpr (Order != 0) {
+        return substituteOne<T, Order>(call, nullptr);
+    } else {
+        return substituteAll<T>(false, 1, Substitution<T>(call));
+    }
+}
+
 } // namespace detail::qr
 
 template <Code operands, class T, Layout memory>
@@ -347,14 +392,17 @@ LxpStatus QRDecompMember<operands, T, memory>::run(const Arguments &arguments) {
     const auto &[source, buffer, destination, size, number] = arguments.parts;
     const int width = size.width();
     const int height = size.height();
-    const int count = number.value;
 
-    bool parallel = false;
+    const detail::qr::Decomposition<T> call = {
+        {height, width}, source.addresses(height, width), destination.addresses(height, width)};
     if constexpr (isArray) {
-        parallel = rowOf<QRDecompMember, detail::qr::thresholds>.isParallel(Work(2) * width * height * count);
+        const int count = number.value;
+        const bool parallel =
+            rowOf<QRDecompMember, detail::qr::thresholds>.isParallel(Work(2) * width * height * count);
+        return detail::qr::decompose<T>(parallel, count, call);
+    } else {
+        return detail::qr::withOrderOf(call.size, [&](auto order) { return detail::qr::decomposeOne<T, order>(call); });
     }
-    return detail::qr::decompose<T>(
-        parallel, count, {{height, width}, source.addresses(height, width), destination.addresses(height, width)});
 }
 
 template <Code operands, class T, Layout memory>
@@ -365,21 +413,22 @@ LxpStatus QRBackSubstMember<operands, T, memory>::run(const Arguments &arguments
     const auto &[factors, buffer, right, destination, size, number] = arguments.parts;
     const int width = size.width();
     const int height = size.height();
-    const int count = number.value;
 
-    bool parallel = false;
+    const detail::qr::Substitution<T> call = {{height, width},
+                                              factors.addresses(height, width),
+                                              buffer.first,
+                                              right.addresses(1, height),
+                                              destination.addresses(1, width)};
     if constexpr (isArray) {
         constexpr Kind matrix = operands[0];
+        const int count = number.value;
         const Work work = matrix.array ? (Work(width) * (Work(height) + 1) + height) * count
                                        : Work(width) * height + (Work(width) + height) * count;
-        parallel = rowOf<QRBackSubstMember, detail::qr::thresholds>.isParallel(work);
+        const bool parallel = rowOf<QRBackSubstMember, detail::qr::thresholds>.isParallel(work);
+        return detail::qr::substituteAll<T>(parallel, count, call);
+    } else {
+        return detail::qr::withOrderOf(call.size, [&](auto order) { return detail::qr::substitute<T, order>(call); });
     }
-    return detail::qr::substituteAll<T>(parallel, count,
-                                        {{height, width},
-                                         factors.addresses(height, width),
-                                         buffer.first,
-                                         right.addresses(1, height),
-                                         destination.addresses(1, width)});
 }
 
 } // namespace lxpm

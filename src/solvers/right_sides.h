@@ -15,12 +15,13 @@
 
 #include <lxpm/types.h>
 
-#include <algorithm>
 #include <cstddef>
+#include <type_traits>
 
 namespace lxpm {
 
-// Right-hand sides of `rows` elements, solutions of `columns`: those of the matrix.
+// Right-hand sides of `rows` elements, solutions of `columns`: those of the matrix, which has no more columns than
+// rows.
 template <class T>
 struct RightSides {
     Addresses<const T> right;
@@ -28,6 +29,36 @@ struct RightSides {
     Addresses<T> solution;
     int columns;
 };
+
+// One right-hand side: solve(factors, x) leaves the solution of `size` elements in x.
+
+template <Part part, class T, class Solve>
+[[gnu::noinline]] void solveAnyOrder(Addresses<const T> factors, int size, Addresses<T> solution, const Solve &solve) {
+    if (size > largestGroup) {
+        withMatrices([&](const auto &a) { solve(a, AnyVector<T>{solution}); }, factors);
+        return;
+    }
+    T copy[largestGroup];
+    T x[largestGroup];
+    withMatrix<part>(factors, size, size, copy, [&](const auto &a) { solve(a, x); });
+    for (int i = 0; i < size; ++i) {
+        *solution.at(0, 0, i) = x[i];
+    }
+}
+
+template <int Order, Part part, class T, class Solve>
+[[gnu::always_inline]] inline void solveOne(const Addresses<const T> &factors, int size, const Addresses<T> &solution,
+                                            const Solve &solve) {
+    if constexpr (Order == 0) {
+        solveAnyOrder<part>(factors, size, solution, solve);
+    } else {
+        T x[Order];
+        withMatrices(
+            [&](const auto &a) __attribute__((always_inline)) { solve(a, x); }, factors);
+        overRange<Order>(
+            0, size, [&](int i) __attribute__((always_inline)) { *solution.at(0, 0, i) = x[i]; });
+    }
+}
 
 struct AsTheyStand {
     int operator()(int i) const { return i; }
@@ -79,24 +110,20 @@ template <class V, int Order, class Source, class Destination, class RowOf, clas
 template <int Order, class T, class RowOf, class Solve, class One>
 LxpStatus overRightSides(const RightSides<T> &sides, int first, int count, const RowOf &rowOf, const Solve &solve,
                          const One &one) {
-    const int size = std::max(sides.rows, sides.columns);
-    const auto withGroup = [&](const auto &over) {
-        withPlain<Order>(
-            [&](const auto &right, const auto &solution) {
-                over([&](auto lanes, std::ptrdiff_t object) {
-                    detail::solveSideBySide<decltype(lanes), Order>(right, solution, sides.rows, sides.columns, rowOf,
-                                                                    solve, object);
-                    return true;
-                });
-            },
-            GroupSource<T>(sides.right, 1, sides.rows), GroupDestination<T>(sides.solution, 1, sides.columns));
+    const auto inLanes = [&](auto lanes, std::ptrdiff_t object, const auto &right, const auto &solution) {
+        detail::solveSideBySide<decltype(lanes), Order>(right, solution, sides.rows, sides.columns, rowOf, solve,
+                                                        object);
+    };
+    const auto run = [&]<int atOnce>(std::integral_constant<int, atOnce>, bool fitsLanes) {
+        return byGroups<T, Order, atOnce>(fitsLanes, first, count, inLanes, one, ForObjects{sides.right, 1, sides.rows},
+                                          ForObjects{sides.solution, 1, sides.columns});
     };
     if constexpr (Order != 0) {
-        return byGroups<T, 2>(true, first, count, withGroup, one); // the elements of more do not stay in registers
-    } else if (size <= detail::largestRightSide<SideBySide<Group<T>, 4>>) {
-        return byGroups<T, 4>(true, first, count, withGroup, one);
+        return run(std::integral_constant<int, 2>(), true); // the elements of more do not stay in registers
+    } else if (sides.rows <= detail::largestRightSide<SideBySide<Group<T>, 4>>) {
+        return run(std::integral_constant<int, 4>(), true);
     }
-    return byGroups<T>(size <= detail::largestRightSide<Group<T>>, first, count, withGroup, one);
+    return run(std::integral_constant<int, 1>(), sides.rows <= detail::largestRightSide<Group<T>>);
 }
 
 } // namespace lxpm

@@ -94,8 +94,12 @@ void runInvert(const PeerOperands &operands) {
 
 template <class M, class Decomposition, bool good>
 void addDecomposition(PeerTable &table, const std::string &name, const std::string &size) {
-    table.push_back({name + "Decomp_ma" + size, runFactor<Decomposition, M, good>});
-    table.push_back({name + "BackSubst_mava" + size, runSolve<Decomposition, M, false>});
+    for (const char *operands : {"_ma", "_m"}) {
+        table.push_back({name + "Decomp" + operands + size, runFactor<Decomposition, M, good>});
+    }
+    for (const char *operands : {"_mava", "_mv"}) {
+        table.push_back({name + "BackSubst" + operands + size, runSolve<Decomposition, M, false>});
+    }
     table.push_back({name + "BackSubst_mva" + size, runSolve<Decomposition, M, true>});
 }
 
@@ -112,8 +116,10 @@ void addOrder(PeerTable &table, const std::string &type) {
     const std::string size = "_" + type + "/" + std::to_string(n) + "x" + std::to_string(n);
     addDecomposition<M, Eigen::PartialPivLU<M>, false>(table, "LU", size);
     addDecomposition<M, Eigen::LLT<M>, true>(table, "Cholesky", size);
-    table.push_back({"Det_ma" + size, runDet<M>});
-    table.push_back({"Invert_ma" + size, runInvert<M>});
+    for (const std::string operands : {"_ma", "_m"}) {
+        table.push_back({"Det" + operands + size, runDet<M>});
+        table.push_back({"Invert" + operands + size, runInvert<M>});
+    }
     addQR<T, n, n>(table, type);
 }
 

@@ -192,8 +192,12 @@ void runSolveAll(const PeerOperands &operands) {
 template <class T, Method method, int height, int width>
 void addMethod(PeerTable &table, const std::string &name, const std::string &type) {
     const std::string size = "_" + type + "/" + std::to_string(height) + "x" + std::to_string(width);
-    table.push_back({name + "Decomp_ma" + size, runFactor<T, method, height, width>});
-    table.push_back({name + "BackSubst_mava" + size, runSolve<T, method, height, width>});
+    for (const char *operands : {"_ma", "_m"}) {
+        table.push_back({name + "Decomp" + operands + size, runFactor<T, method, height, width>});
+    }
+    for (const char *operands : {"_mava", "_mv"}) {
+        table.push_back({name + "BackSubst" + operands + size, runSolve<T, method, height, width>});
+    }
     table.push_back({name + "BackSubst_mva" + size, runSolveAll<T, method, height, width>});
 }
 
