@@ -105,10 +105,11 @@ LxpStatus SumMember<Op, operands, T, memory>::run(const Arguments &arguments) {
         parallel = rowOf<SumMember, detail::sum::thresholds>.isParallel(
             detail::sum::workOf<SumMember>(width, height, count), isContiguous);
     }
-    const Addresses<const T> sources[] = {first.addresses(height, width), second.addresses(height, width)};
-    return mapElements<T, Operation, 2>(
-        Operation(), parallel, count, height, width,
-        {destination.addresses(height, width), {sources[isReversed ? 1 : 0], sources[isReversed ? 0 : 1]}});
+    const auto sources = std::tie(first, second);
+    return mapElements<T, Operation, 2>(Operation(), parallel, count, height, width,
+                                        {destination.addresses(height, width),
+                                         {std::get < isReversed ? 1 : 0 > (sources).addresses(height, width),
+                                          std::get < isReversed ? 0 : 1 > (sources).addresses(height, width)}});
 }
 
 } // namespace lxpm

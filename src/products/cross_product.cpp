@@ -56,7 +56,8 @@ template <class Vector>
 }
 
 template <class T>
-void crossOneByOne(const CrossOperands<T> &shared, std::ptrdiff_t object, std::ptrdiff_t objects) {
+[[gnu::always_inline]] inline void crossOneByOne(const CrossOperands<T> &shared, std::ptrdiff_t object,
+                                                 std::ptrdiff_t objects) {
     const CrossOperands<T> operands = shared; // a copy that no store below can reach
     for (; object < objects; ++object) {
         const auto elements = [object](const Addresses<const T> &source) __attribute__((always_inline)) {
@@ -215,15 +216,17 @@ LxpStatus CrossProductMember<operands, T, memory>::run(const Arguments &argument
         return status;
     }
     const auto &[first, second, destination, number] = arguments.parts;
-    const int count = number.value;
 
-    bool parallel = false;
+    const CrossOperands<T> vectors = {first.addresses(1, length), second.addresses(1, length),
+                                      destination.addresses(1, length)};
     if constexpr (isArray) {
         constexpr Size size = rowOf<CrossProductMember, sizes>;
-        parallel = size.threshold.isParallel(Work(size.arrays) * count);
+        const int count = number.value;
+        return crossObjects<T>(size.threshold.isParallel(Work(size.arrays) * count), count, vectors);
+    } else {
+        crossOneByOne(vectors, 0, 1);
+        return lxpStatusOk;
     }
-    return crossObjects<T>(parallel, count,
-                           {first.addresses(1, length), second.addresses(1, length), destination.addresses(1, length)});
 }
 
 } // namespace lxpm

@@ -38,18 +38,19 @@ LxpStatus DotProductMember<operands, T, memory>::run(const Arguments &arguments)
     }
     const auto &[first, second, results, size, number] = arguments.parts;
     const int length = size.width();
-    const int count = number.value;
 
+    const SumOperands<T, 2> sum = {{first.addresses(1, length), second.addresses(1, length)}, results.first};
     const bool isContiguous = first.isContiguous() && second.isContiguous();
-    bool parallel = false;
+    const bool isSplit = layout != Layout::ElementPointers && isContiguous && length >= shortestSplit;
     if constexpr (isArray) {
         constexpr Kind other = operands[1];
+        const int count = number.value;
         const Work vectors = other.array ? Work(2) * count : Work(count) + 1;
-        parallel = rowOf<DotProductMember, thresholds>.isParallel(vectors * length, isContiguous);
+        const bool parallel = rowOf<DotProductMember, thresholds>.isParallel(vectors * length, isContiguous);
+        return sumProducts<T, PlainSum, 2>(parallel, isSplit, count, 1, length, sum);
+    } else {
+        return sumProductsOfOne<T, PlainSum, 2>(isSplit, 1, length, sum);
     }
-    const bool isSplit = layout != Layout::ElementPointers && isContiguous && length >= shortestSplit;
-    return sumProducts<T, PlainSum, 2>(parallel, isSplit, count, 1, length,
-                                       {{first.addresses(1, length), second.addresses(1, length)}, results.first});
 }
 
 } // namespace lxpm

@@ -38,15 +38,17 @@ LxpStatus FrobNormMember<operands, T, memory>::run(const Arguments &arguments) {
     const auto &[source, size, results, number] = arguments.parts;
     const int width = size.width();
     const int height = size.height();
-    const int count = number.value;
 
-    bool parallel = false;
-    if constexpr (isArray) {
-        parallel = rowOf<FrobNormMember, thresholds>.isParallel(Work(width) * height * count, source.isContiguous());
-    }
+    const SumOperands<T, 1> sum = {{source.addresses(height, width)}, results.first};
     const bool isSplit = layout != Layout::ElementPointers && source.isContiguous() && isSplitRow(width);
-    return sumProducts<T, RootOfSum, 1>(parallel, isSplit, count, height, width,
-                                        {{source.addresses(height, width)}, results.first});
+    if constexpr (isArray) {
+        const int count = number.value;
+        const bool parallel =
+            rowOf<FrobNormMember, thresholds>.isParallel(Work(width) * height * count, source.isContiguous());
+        return sumProducts<T, RootOfSum, 1>(parallel, isSplit, count, height, width, sum);
+    } else {
+        return sumProductsOfOne<T, RootOfSum, 1>(isSplit, height, width, sum);
+    }
 }
 
 } // namespace lxpm

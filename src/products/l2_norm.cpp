@@ -30,12 +30,16 @@ LxpStatus L2NormMember<operands, T, memory>::run(const Arguments &arguments) {
     }
     const auto &[source, results, size, number] = arguments.parts;
     const int length = size.width();
-    const int count = number.value;
 
-    const bool parallel = isArray && threshold.isParallel(Work(length) * count);
+    const SumOperands<T, 1> sum = {{source.addresses(1, length)}, results.first};
     const bool isSplit = layout != Layout::ElementPointers && source.isContiguous() && length >= shortestSplit;
-    return sumProducts<T, RootOfSum, 1>(parallel, isSplit, count, 1, length,
-                                        {{source.addresses(1, length)}, results.first});
+    if constexpr (isArray) {
+        const int count = number.value;
+        const bool parallel = threshold.isParallel(Work(length) * count);
+        return sumProducts<T, RootOfSum, 1>(parallel, isSplit, count, 1, length, sum);
+    } else {
+        return sumProductsOfOne<T, RootOfSum, 1>(isSplit, 1, length, sum);
+    }
 }
 
 } // namespace lxpm

@@ -121,13 +121,9 @@ LxpStatus ProductMember<operands, T, memory>::run(const Arguments &arguments) {
     }
 
     if constexpr (operands[1].shape == Shape::Vector) {
-        return multiplyVector<T>(parallel, count,
-                                 {.rows = rows,
-                                  .inner = inner,
-                                  .matrix = first.addresses(rows, inner),
-                                  .vector = second.addresses(1, inner),
-                                  .addend = std::nullopt,
-                                  .dst = destination.addresses(1, rows)});
+        return multiplyRow<T>(parallel, count,
+                              rowProduct<T>(rows, inner, first.addresses(rows, inner), second.addresses(1, inner),
+                                            std::nullopt, destination.addresses(1, rows)));
     } else {
         return multiplyMatrices<T>(parallel, count,
                                    {.rows = rows,

@@ -42,28 +42,31 @@ struct MatrixProduct {
         }
         return later;
     }
+
+    // Calls use(that).
+    template <class Use>
+    [[gnu::always_inline]] auto withFrom(std::ptrdiff_t object, const Use &use) const {
+        return object == 0 ? use(*this) : use(from(object));
+    }
 };
 
-// dst = matrix * vector + addend
+// dst = matrix * vector + addend, for rows x inner matrices: as a row, the vector times the transposed matrix.
 template <class T>
-struct VectorProduct {
-    std::ptrdiff_t rows;
-    std::ptrdiff_t inner;
-    Addresses<const T> matrix;
-    Addresses<const T> vector;
-    std::optional<Addresses<const T>> addend;
-    Addresses<T> dst;
-};
+[[gnu::always_inline]] inline MatrixProduct<T>
+rowProduct(int rows, int inner, const Addresses<const T> &matrix, const Addresses<const T> &vector,
+           const std::optional<Addresses<const T>> &addend, const Addresses<T> &dst) {
+    return {1, inner, rows, vector, matrix.transposed(), addend, dst};
+}
 
 template <class T>
 LxpStatus multiplyMatrices(bool parallel, int count, const MatrixProduct<T> &product);
 
 template <class T>
-LxpStatus multiplyVector(bool parallel, int count, const VectorProduct<T> &product);
+LxpStatus multiplyRow(bool parallel, int count, const MatrixProduct<T> &product);
 
 extern template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<float> &);
 extern template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<double> &);
-extern template LxpStatus multiplyVector(bool, int, const VectorProduct<float> &);
-extern template LxpStatus multiplyVector(bool, int, const VectorProduct<double> &);
+extern template LxpStatus multiplyRow(bool, int, const MatrixProduct<float> &);
+extern template LxpStatus multiplyRow(bool, int, const MatrixProduct<double> &);
 
 } // namespace lxpm

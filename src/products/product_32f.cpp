@@ -6,6 +6,6 @@
 namespace lxpm {
 
 template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<float> &);
-template LxpStatus multiplyVector(bool, int, const VectorProduct<float> &);
+template LxpStatus multiplyRow(bool, int, const MatrixProduct<float> &);
 
 } // namespace lxpm

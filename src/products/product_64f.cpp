@@ -6,6 +6,6 @@
 namespace lxpm {
 
 template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<double> &);
-template LxpStatus multiplyVector(bool, int, const VectorProduct<double> &);
+template LxpStatus multiplyRow(bool, int, const MatrixProduct<double> &);
 
 } // namespace lxpm

@@ -113,11 +113,9 @@ void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     }
     const bool isUsable =
         p.a.movesByBytes() && p.b.rowsTouch() && p.dst.rowsTouch() && (!p.addend || p.addend->rowsTouch());
-    if (isUsable) {
-        chooseUnrolled<T, Order>(p.from(done), count - done);
-    } else {
-        multiplyStaged<T, Order>(p.from(done), count - done);
-    }
+    p.withFrom(done, [&](const MatrixProduct<T> &rest) {
+        isUsable ? chooseUnrolled<T, Order>(rest, count - done) : multiplyStaged<T, Order>(rest, count - done);
+    });
 }
 
 // Rows that are multiplied with the same matrix are those of one product.
@@ -156,36 +154,35 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
             if (done == count) {
                 return lxpStatusOk;
             }
-            if (goesByRows) {
-                RowProduct<T>::run(p.from(done), count - done);
-            } else {
-                multiplyByPanels(p.from(done), count - done);
-            }
+            p.withFrom(done, [&](const MatrixProduct<T> &rest) {
+                goesByRows ? RowProduct<T>::run(rest, count - done) : multiplyByPanels(rest, count - done);
+            });
         }
         return lxpStatusOk;
     });
 }
 
+// Each thread's objects. A product is not copied where it need not be: what was just written as numbers is slow to be
+// read back by whole registers.
 template <class T>
-LxpStatus multiplyMatrices(bool parallel, int count, const MatrixProduct<T> &product) {
-    MatrixProduct<T> p = product;
-    if (!p.dst.rowsTouch() && p.dst.transposed().rowsTouch()) {
-        // The kernels write rows: the transposed result is the product of the transposed operands, exchanged.
-        std::swap(p.rows, p.columns);
-        p.a = product.b.transposed();
-        p.b = product.a.transposed();
-        p.dst = product.dst.transposed();
-    }
-    return overObjects(parallel, count,
-                       [&](int first, int objects) { return multiplyObjects(p.from(first), objects); });
+LxpStatus multiplyRow(bool parallel, int count, const MatrixProduct<T> &product) {
+    return overObjects(parallel, count, [&](int first, int objects) {
+        return product.withFrom(first, [&](const MatrixProduct<T> &later) { return multiplyObjects(later, objects); });
+    });
 }
 
-// As a row: the vector times the transposed matrix.
 template <class T>
-LxpStatus multiplyVector(bool parallel, int count, const VectorProduct<T> &v) {
-    const MatrixProduct<T> p = {1, v.inner, v.rows, v.vector, v.matrix.transposed(), v.addend, v.dst};
-    return overObjects(parallel, count,
-                       [&](int first, int objects) { return multiplyObjects(p.from(first), objects); });
+LxpStatus multiplyMatrices(bool parallel, int count, const MatrixProduct<T> &product) {
+    if (product.dst.rowsTouch() || !product.dst.transposed().rowsTouch()) {
+        return multiplyRow(parallel, count, product);
+    }
+    // The kernels write rows: the transposed result is the product of the transposed operands, exchanged.
+    MatrixProduct<T> turned = product;
+    std::swap(turned.rows, turned.columns);
+    turned.a = product.b.transposed();
+    turned.b = product.a.transposed();
+    turned.dst = product.dst.transposed();
+    return multiplyRow(parallel, count, turned);
 }
 
 } // namespace lxpm

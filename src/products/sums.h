@@ -90,6 +90,11 @@ public:
         }
     }
 
+    // Ascending, of one object alone.
+    [[gnu::always_inline]] static void ascendingOfOne(const Operands &operands, int rows, int columns) {
+        *operands.dst = Finish()(sumOfOne(operands.src, rows, columns, 0));
+    }
+
 private:
     using Index = std::make_index_sequence<sources>;
     using Groups = void (*)(const Operands &, int rows, int columns, std::ptrdiff_t objects);
@@ -236,12 +241,12 @@ private:
         return follow;
     }
 
-    static T sumOfOne(const std::array<Addresses<const T>, sources> &src, int rows, int columns,
-                      std::ptrdiff_t object) {
+    [[gnu::always_inline]] static T sumOfOne(const std::array<Addresses<const T>, sources> &src, int rows, int columns,
+                                             std::ptrdiff_t object) {
         T sum = 0;
         for (int row = 0; row < rows; ++row) {
             for (int column = 0; column < columns; ++column) {
-                sum += [&]<std::size_t... s>(std::index_sequence<s...>) {
+                sum += [&]<std::size_t... s>(std::index_sequence<s...>) __attribute__((always_inline)) {
                     return product(*src[s].at(object, row, column)...);
                 }
                 (Index());
@@ -420,11 +425,24 @@ private:
 template <class T, class Finish, std::size_t sources>
 [[gnu::noinline]] LxpStatus sumProducts(bool parallel, bool isSplit, int count, int rows, int columns,
                                         const SumOperands<T, sources> &operands) {
+    using Sums = lxpm::Sums<T, Finish, sources>;
+    const auto sums = isSplit ? Sums::split : Sums::ascending;
     return overObjects(parallel, count, [&](int first, int objects) {
-        using Sums = lxpm::Sums<T, Finish, sources>;
-        (isSplit ? Sums::split : Sums::ascending)(operands.from(first), rows, columns, objects);
+        // Not a copy of what was just written as numbers: it would be slow to be read back by whole registers.
+        first == 0 ? sums(operands, rows, columns, objects) : sums(operands.from(first), rows, columns, objects);
         return lxpStatusOk;
     });
+}
+
+// One object alone: the operands of a short sum need not be in memory.
+template <class T, class Finish, std::size_t sources>
+[[gnu::always_inline]] inline LxpStatus sumProductsOfOne(bool isSplit, int rows, int columns,
+                                                         const SumOperands<T, sources> &operands) {
+    if (isSplit) {
+        return sumProducts<T, Finish, sources>(false, true, 1, rows, columns, SumOperands<T, sources>(operands));
+    }
+    Sums<T, Finish, sources>::ascendingOfOne(operands, rows, columns);
+    return lxpStatusOk;
 }
 
 } // namespace lxpm

@@ -28,13 +28,14 @@ public:
     }
 
 private:
-    // The sizes are those of the source.
+    // The sizes are those of the source. References: a copy of what was just written as numbers would be slow to be
+    // read back by whole registers.
     struct Matrices {
         std::ptrdiff_t objects;
         std::ptrdiff_t height;
         std::ptrdiff_t width;
-        Addresses<const T> src;
-        Addresses<T> dst;
+        const Addresses<const T> &src;
+        const Addresses<T> &dst;
     };
     using Kernel = void (*)(const Matrices &);
 
@@ -110,8 +111,10 @@ private:
     [[gnu::always_inline]] static void forEachPairWalking(const Matrices &m, const Function &function) {
         ObjectWalk<const T, walking> source(m.src);
         ObjectWalk<T, walking> destination(m.dst);
+        const std::ptrdiff_t srcStep = m.src.step[1];
+        const std::ptrdiff_t dstStep = m.dst.step[1];
         for (std::ptrdiff_t object = 0; object < m.objects; ++object) {
-            function(Pair{source.object(), m.src.step[1], destination.object(), m.dst.step[1]});
+            function(Pair{source.object(), srcStep, destination.object(), dstStep});
             source.next();
             destination.next();
         }
@@ -293,10 +296,12 @@ private:
 
     static void oneByOne(const Matrices &shared) {
         const Matrices m = shared;
+        const Addresses<const T> src = m.src;
+        const Addresses<T> dst = m.dst;
         for (std::ptrdiff_t object = 0; object < m.objects; ++object) {
             for (std::ptrdiff_t row = 0; row < m.width; ++row) {
                 for (std::ptrdiff_t column = 0; column < m.height; ++column) {
-                    *m.dst.at(object, row, column) = *m.src.at(object, column, row);
+                    *dst.at(object, row, column) = *src.at(object, column, row);
                 }
             }
         }

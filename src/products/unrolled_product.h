@@ -15,6 +15,7 @@
 #include <array>
 #include <cstddef>
 #include <type_traits>
+#include <utility>
 
 namespace lxpm {
 
@@ -31,14 +32,18 @@ public:
 
     static ElementRow zero() { return {}; }
 
-    // One by one: element(i) is the i-th one.
+    // One by one: element(i) is the i-th one. A register is made of all its elements at once: GCC sends it through
+    // memory for each that it is given later.
     template <class F>
     [[gnu::always_inline]] static ElementRow of(const F &element) {
         ElementRow row;
-#pragma GCC unroll 8
-        for (int i = 0; i < N; ++i) {
-            row.part[i / lanes].vector[i % lanes] = element(i);
-        }
+        forEachOf<registers>([&](auto r) __attribute__((always_inline)) {
+            row.part[r] = [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
+                constexpr int first = r * lanes;
+                return Lanes<T, lanes>{{(first + lane < N ? T(element(first + lane)) : T(0))...}};
+            }
+            (std::make_integer_sequence<int, lanes>());
+        });
         return row;
     }
 

@@ -37,6 +37,20 @@ public:
         return {pointers, nullptr, offset, pointerStep, step};
     }
 
+    // Number by number: what was just written in that way would be slow to be read back by whole registers.
+    Addresses(const Addresses &other)
+        : pointers(other.pointers), base(other.base),
+          offset(other.offset), pointerStep{other.pointerStep[0], other.pointerStep[1], other.pointerStep[2]},
+          step{other.step[0], other.step[1], other.step[2]} {}
+    Addresses &operator=(const Addresses &other) {
+        pointers = other.pointers;
+        base = other.base;
+        offset = other.offset;
+        pointerStep = {other.pointerStep[0], other.pointerStep[1], other.pointerStep[2]};
+        step = {other.step[0], other.step[1], other.step[2]};
+        return *this;
+    }
+
     // The same operand without what stands before element (row, column) of `object`.
     [[gnu::always_inline]] Addresses from(std::ptrdiff_t object, std::ptrdiff_t row = 0,
                                           std::ptrdiff_t column = 0) const {

@@ -179,6 +179,11 @@ void mapObjects(const F &f, const Extents &extents, const MapOperands<T, sources
         Loops<T, F, sources>::choose(nest)(f, nest);
         return;
     }
+    if (nest.isOneRun()) { // as most are: to arrange a few objects would take longer than to compute them
+        nest.makeOneRun();
+        Loops<T, F, sources>::choose(nest)(f, nest);
+        return;
+    }
     nest.straighten();
     nest.arrange();
     if (isScattered(nest)) {
@@ -197,7 +202,8 @@ template <class T, class F, std::size_t sources>
 [[gnu::noinline]] LxpStatus mapElements(const F &f, bool parallel, int count, int rows, int columns,
                                         const MapOperands<T, sources> &operands) {
     return overObjects(parallel, count, [&](int first, int objects) {
-        mapObjects(f, {objects, rows, columns}, operands.from(first));
+        const Extents extents = {objects, rows, columns};
+        first == 0 ? mapObjects(f, extents, operands) : mapObjects(f, extents, operands.from(first));
         return lxpStatusOk;
     });
 }

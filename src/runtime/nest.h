@@ -65,6 +65,27 @@ struct Nest {
     Nest(const Extents &loops, const MapOperands<T, sources> &operands)
         : extent{loops.objects, loops.rows, loops.columns}, operand(operands) {}
 
+    // Whether all elements of every operand touch, one object after the other. In natural order.
+    bool isOneRun() const {
+        const std::ptrdiff_t row = extent[2] * std::ptrdiff_t(sizeof(T));
+        const std::ptrdiff_t object = extent[1] * row;
+        const auto isRun = [&](const auto &o) {
+            return o.pointers == nullptr && o.step[2] == sizeof(T) && (extent[1] == 1 || o.step[1] == row) &&
+                   (extent[0] == 1 || o.step[0] == object);
+        };
+        bool areRuns = isRun(operand.dst);
+        for (const auto &source : operand.src) {
+            areRuns = areRuns && isRun(source);
+        }
+        return areRuns;
+    }
+
+    // If so, what arrange() would make of it.
+    void makeOneRun() {
+        extent = {1, 1, extent[0] * extent[1] * extent[2]};
+        forEachOperand([](auto &o) { o.step[0] = o.step[1] = 0; });
+    }
+
     // An operand whose pointers stand evenly apart is a strided one, and may be arranged as such. In natural order.
     void straighten() {
         forEachOperand([this](auto &o) { this->straighten(o); });
