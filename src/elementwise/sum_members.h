@@ -9,6 +9,9 @@
 #include "runtime/rows.h"
 #include "runtime/work.h"
 
+#include <cstddef>
+#include <tuple>
+
 namespace lxpm {
 
 namespace detail::sum {
@@ -106,10 +109,11 @@ LxpStatus SumMember<Op, operands, T, memory>::run(const Arguments &arguments) {
             detail::sum::workOf<SumMember>(width, height, count), isContiguous);
     }
     const auto sources = std::tie(first, second);
-    return mapElements<T, Operation, 2>(Operation(), parallel, count, height, width,
-                                        {destination.addresses(height, width),
-                                         {std::get < isReversed ? 1 : 0 > (sources).addresses(height, width),
-                                          std::get < isReversed ? 0 : 1 > (sources).addresses(height, width)}});
+    constexpr std::size_t left = isReversed ? 1 : 0;
+    return mapElements<T, Operation, 2>(
+        Operation(), parallel, count, height, width,
+        {destination.addresses(height, width),
+         {std::get<left>(sources).addresses(height, width), std::get<1 - left>(sources).addresses(height, width)}});
 }
 
 } // namespace lxpm

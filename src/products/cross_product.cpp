@@ -198,12 +198,10 @@ std::ptrdiff_t crossWholeGroups(CrossOperands<T> operands, std::ptrdiff_t object
 template <class T>
 [[gnu::noinline]] LxpStatus crossObjects(bool parallel, int count, const CrossOperands<T> &operands) {
     return overObjects(parallel, count, [&](int first, int objects) {
-        const CrossOperands<T> own = operands.from(first);
-        std::ptrdiff_t done = 0;
-        if (objects >= groupSize<T>) {
-            done = crossWholeGroups(own, objects);
-        }
-        crossOneByOne(own, done, objects);
+        withFrom(operands, first, [&](const CrossOperands<T> &own) {
+            const std::ptrdiff_t done = objects >= groupSize<T> ? crossWholeGroups(own, objects) : 0;
+            crossOneByOne(own, done, objects);
+        });
         return lxpStatusOk;
     });
 }

@@ -121,9 +121,10 @@ LxpStatus ProductMember<operands, T, memory>::run(const Arguments &arguments) {
     }
 
     if constexpr (operands[1].shape == Shape::Vector) {
-        return multiplyRow<T>(parallel, count,
-                              rowProduct<T>(rows, inner, first.addresses(rows, inner), second.addresses(1, inner),
-                                            std::nullopt, destination.addresses(1, rows)));
+        return multiplyAsItStands<T>(parallel, count,
+                                     rowProduct<T>(rows, inner, first.addresses(rows, inner),
+                                                   second.addresses(1, inner), std::nullopt,
+                                                   destination.addresses(1, rows)));
     } else {
         return multiplyMatrices<T>(parallel, count,
                                    {.rows = rows,

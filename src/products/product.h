@@ -42,12 +42,6 @@ struct MatrixProduct {
         }
         return later;
     }
-
-    // Calls use(that).
-    template <class Use>
-    [[gnu::always_inline]] auto withFrom(std::ptrdiff_t object, const Use &use) const {
-        return object == 0 ? use(*this) : use(from(object));
-    }
 };
 
 // dst = matrix * vector + addend, for rows x inner matrices: as a row, the vector times the transposed matrix.
@@ -58,15 +52,17 @@ rowProduct(int rows, int inner, const Addresses<const T> &matrix, const Addresse
     return {1, inner, rows, vector, matrix.transposed(), addend, dst};
 }
 
+// Any product.
 template <class T>
 LxpStatus multiplyMatrices(bool parallel, int count, const MatrixProduct<T> &product);
 
+// One whose destination has touching rows, if anything in it touches: as those of one row.
 template <class T>
-LxpStatus multiplyRow(bool parallel, int count, const MatrixProduct<T> &product);
+LxpStatus multiplyAsItStands(bool parallel, int count, const MatrixProduct<T> &product);
 
 extern template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<float> &);
 extern template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<double> &);
-extern template LxpStatus multiplyRow(bool, int, const MatrixProduct<float> &);
-extern template LxpStatus multiplyRow(bool, int, const MatrixProduct<double> &);
+extern template LxpStatus multiplyAsItStands(bool, int, const MatrixProduct<float> &);
+extern template LxpStatus multiplyAsItStands(bool, int, const MatrixProduct<double> &);
 
 } // namespace lxpm

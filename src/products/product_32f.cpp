@@ -6,6 +6,6 @@
 namespace lxpm {
 
 template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<float> &);
-template LxpStatus multiplyRow(bool, int, const MatrixProduct<float> &);
+template LxpStatus multiplyAsItStands(bool, int, const MatrixProduct<float> &);
 
 } // namespace lxpm

@@ -6,6 +6,6 @@
 namespace lxpm {
 
 template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<double> &);
-template LxpStatus multiplyRow(bool, int, const MatrixProduct<double> &);
+template LxpStatus multiplyAsItStands(bool, int, const MatrixProduct<double> &);
 
 } // namespace lxpm

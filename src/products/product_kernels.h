@@ -113,7 +113,7 @@ void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     }
     const bool isUsable =
         p.a.movesByBytes() && p.b.rowsTouch() && p.dst.rowsTouch() && (!p.addend || p.addend->rowsTouch());
-    p.withFrom(done, [&](const MatrixProduct<T> &rest) {
+    withFrom(p, done, [&](const MatrixProduct<T> &rest) {
         isUsable ? chooseUnrolled<T, Order>(rest, count - done) : multiplyStaged<T, Order>(rest, count - done);
     });
 }
@@ -154,7 +154,7 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
             if (done == count) {
                 return lxpStatusOk;
             }
-            p.withFrom(done, [&](const MatrixProduct<T> &rest) {
+            withFrom(p, done, [&](const MatrixProduct<T> &rest) {
                 goesByRows ? RowProduct<T>::run(rest, count - done) : multiplyByPanels(rest, count - done);
             });
         }
@@ -162,19 +162,17 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     });
 }
 
-// Each thread's objects. A product is not copied where it need not be: what was just written as numbers is slow to be
-// read back by whole registers.
 template <class T>
-LxpStatus multiplyRow(bool parallel, int count, const MatrixProduct<T> &product) {
+LxpStatus multiplyAsItStands(bool parallel, int count, const MatrixProduct<T> &product) {
     return overObjects(parallel, count, [&](int first, int objects) {
-        return product.withFrom(first, [&](const MatrixProduct<T> &later) { return multiplyObjects(later, objects); });
+        return withFrom(product, first, [&](const MatrixProduct<T> &later) { return multiplyObjects(later, objects); });
     });
 }
 
 template <class T>
 LxpStatus multiplyMatrices(bool parallel, int count, const MatrixProduct<T> &product) {
     if (product.dst.rowsTouch() || !product.dst.transposed().rowsTouch()) {
-        return multiplyRow(parallel, count, product);
+        return multiplyAsItStands(parallel, count, product);
     }
     // The kernels write rows: the transposed result is the product of the transposed operands, exchanged.
     MatrixProduct<T> turned = product;
@@ -182,7 +180,7 @@ LxpStatus multiplyMatrices(bool parallel, int count, const MatrixProduct<T> &pro
     turned.a = product.b.transposed();
     turned.b = product.a.transposed();
     turned.dst = product.dst.transposed();
-    return multiplyRow(parallel, count, turned);
+    return multiplyAsItStands(parallel, count, turned);
 }
 
 } // namespace lxpm

@@ -428,8 +428,7 @@ template <class T, class Finish, std::size_t sources>
     using Sums = lxpm::Sums<T, Finish, sources>;
     const auto sums = isSplit ? Sums::split : Sums::ascending;
     return overObjects(parallel, count, [&](int first, int objects) {
-        // Not a copy of what was just written as numbers: it would be slow to be read back by whole registers.
-        first == 0 ? sums(operands, rows, columns, objects) : sums(operands.from(first), rows, columns, objects);
+        withFrom(operands, first, [&](const SumOperands<T, sources> &later) { sums(later, rows, columns, objects); });
         return lxpStatusOk;
     });
 }
@@ -439,7 +438,8 @@ template <class T, class Finish, std::size_t sources>
 [[gnu::always_inline]] inline LxpStatus sumProductsOfOne(bool isSplit, int rows, int columns,
                                                          const SumOperands<T, sources> &operands) {
     if (isSplit) {
-        return sumProducts<T, Finish, sources>(false, true, 1, rows, columns, SumOperands<T, sources>(operands));
+        const SumOperands<T, sources> inMemory = operands;
+        return sumProducts<T, Finish, sources>(false, true, 1, rows, columns, inMemory);
     }
     Sums<T, Finish, sources>::ascendingOfOne(operands, rows, columns);
     return lxpStatusOk;

@@ -28,8 +28,7 @@ public:
     }
 
 private:
-    // The sizes are those of the source. References: a copy of what was just written as numbers would be slow to be
-    // read back by whole registers.
+    // The sizes are those of the source. The operands are those of the call, not copied where they need not be.
     struct Matrices {
         std::ptrdiff_t objects;
         std::ptrdiff_t height;
@@ -160,7 +159,7 @@ private:
     // Square matrices of a small order.
     template <int Order, bool isDense>
     static void byOrder(const Matrices &shared) {
-        const Matrices matrices = shared; // a copy that no store below can reach
+        const Matrices matrices = shared; // sizes that no store below can reach
         forEachPair(
             matrices, [](const Pair &pair) __attribute__((always_inline)) {
                 if constexpr (Order == 3 && isDense) {

@@ -80,8 +80,29 @@ inline Lanes<T, 4> firstLanesOf(Lanes<T, 4> first, Lanes<T, 4> others) {
         return others;
     } else if constexpr (K >= 4) {
         return first;
+    } else if constexpr (sizeof(T) == sizeof(float)) {
+        return {_mm_blend_ps(others.vector, first.vector, (1 << K) - 1)};
     } else {
-        return {__builtin_shufflevector(first.vector, others.vector, 0, K > 1 ? 1 : 5, K > 2 ? 2 : 6, 7)};
+        return {_mm256_blend_pd(others.vector, first.vector, (1 << K) - 1)};
+    }
+}
+
+// Of four lanes the last of the first K also in those behind it.
+template <int K, class T>
+inline Lanes<T, 4> lastRepeated(Lanes<T, 4> x) {
+    constexpr int last = K - 1;
+    constexpr int second = last < 1 ? last : 1;
+    constexpr int third = last < 2 ? last : 2;
+    if constexpr (K == 4) {
+        return x;
+    } else if constexpr (sizeof(T) == sizeof(float)) {
+        return {_mm_permute_ps(x.vector, _MM_SHUFFLE(last, third, second, 0))};
+    } else if constexpr (K == 3) {
+        return {_mm256_blend_pd(x.vector, _mm256_movedup_pd(x.vector), 0x8)};
+    } else {
+        const __m128d first = _mm256_castpd256_pd128(x.vector);
+        const __m128d repeated = K == 2 ? _mm_unpackhi_pd(first, first) : _mm_unpacklo_pd(first, first);
+        return {_mm256_set_m128d(repeated, K == 2 ? first : repeated)};
     }
 }
 

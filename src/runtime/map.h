@@ -174,13 +174,9 @@ private:
 template <class T, class F, std::size_t sources>
 void mapObjects(const F &f, const Extents &extents, const MapOperands<T, sources> &operands) {
     Nest<T, sources> nest(extents, operands);
-    if (extents.objects == 1 && isSmall(extents.rows, extents.columns)) {
-        nest.isDisjoint = false;
-        Loops<T, F, sources>::choose(nest)(f, nest);
-        return;
-    }
-    if (nest.isOneRun()) { // as most are: to arrange a few objects would take longer than to compute them
-        nest.makeOneRun();
+    const bool isOneSmall = extents.objects == 1 && isSmall(extents.rows, extents.columns);
+    if (isOneSmall || nest.isOneRun()) { // to arrange a few objects would take longer than to compute them
+        isOneSmall ? void(nest.isDisjoint = false) : nest.makeOneRun();
         Loops<T, F, sources>::choose(nest)(f, nest);
         return;
     }
@@ -203,7 +199,7 @@ template <class T, class F, std::size_t sources>
                                         const MapOperands<T, sources> &operands) {
     return overObjects(parallel, count, [&](int first, int objects) {
         const Extents extents = {objects, rows, columns};
-        first == 0 ? mapObjects(f, extents, operands) : mapObjects(f, extents, operands.from(first));
+        withFrom(operands, first, [&](const MapOperands<T, sources> &later) { mapObjects(f, extents, later); });
         return lxpStatusOk;
     });
 }

@@ -68,10 +68,9 @@ struct Nest {
     // Whether all elements of every operand touch, one object after the other. In natural order.
     bool isOneRun() const {
         const std::ptrdiff_t row = extent[2] * std::ptrdiff_t(sizeof(T));
-        const std::ptrdiff_t object = extent[1] * row;
-        const auto isRun = [&](const auto &o) {
+        const auto isRun = [&](const auto &o) { // the products overflow where the rows do not follow one another
             return o.pointers == nullptr && o.step[2] == sizeof(T) && (extent[1] == 1 || o.step[1] == row) &&
-                   (extent[0] == 1 || o.step[0] == object);
+                   (extent[0] == 1 || o.step[0] == extent[1] * row);
         };
         bool areRuns = isRun(operand.dst);
         for (const auto &source : operand.src) {

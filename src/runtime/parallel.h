@@ -53,4 +53,10 @@ LxpStatus overObjects(bool parallel, int count, const Kernel &kernel) {
     return overShares(parallel, count, 0, [&](const Share &share) { return kernel(share.first, share.count); });
 }
 
+// Calls use(operands) with what there is from object `first` on: as they stand if that is all, not a copy.
+template <class Operands, class Use>
+[[gnu::always_inline]] inline auto withFrom(const Operands &operands, std::ptrdiff_t first, const Use &use) {
+    return first == 0 ? use(operands) : use(operands.from(first));
+}
+
 } // namespace lxpm

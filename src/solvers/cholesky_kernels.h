@@ -16,6 +16,7 @@
 
 #include <cstddef>
 #include <immintrin.h>
+#include <type_traits>
 
 namespace lxpm {
 
@@ -114,7 +115,7 @@ constexpr LxpStatus statusOf(int done, int order) {
 }
 
 template <class T, int Order, class Source, class Destination>
-LxpStatus decomposeRows(const Source &source, const Destination &destination) {
+LxpStatus decomposeKnownOrder(const Source &source, const Destination &destination) {
     KeptMatrix<T, Order, Destination> factor(destination);
     return statusOf(factorize<Order, T>(source, factor, Order), Order);
 }
@@ -124,7 +125,7 @@ template <class T>
     const auto &[n, source, destination] = call;
     const bool rowsTouch = source.rowsTouch() && destination.rowsTouch();
     if (rowsTouch || n > largestCopied) {
-        return withMatrices(
+        return withViews(
             [&](const auto &a, const auto &l) { return statusOf(factorize<0, T>(a, l, call.order), call.order); },
             source, destination);
     }
@@ -143,8 +144,8 @@ template <class T>
 template <class T, int Order>
 [[gnu::always_inline]] inline LxpStatus decomposeOne(const Decomposition<T> &call) {
     if constexpr (Order != 0) {
-        return withMatrices([&](const auto &from, const auto &to) { return decomposeRows<T, Order>(from, to); },
-                            call.source, call.destination);
+        return withViews([&](const auto &from, const auto &to) { return decomposeKnownOrder<T, Order>(from, to); },
+                         call.source, call.destination);
     } else {
         return decomposeAnyOrder<T>(call);
     }
@@ -241,7 +242,7 @@ LxpStatus substituteObjects(const Substitution<T> &call, int first, int count) {
     }
     LxpStatus status = lxpStatusOk;
     T copy[Order != 0 ? Order * Order : largestGroup];
-    withMatrix<Part::LowerTriangle>(call.factors, n, n, copy, [&](const auto &factor) {
+    withViewOrCopy<Part::LowerTriangle>(call.factors, n, n, copy, [&](const auto &factor) {
         const auto solve = [&]<class V>(V * x) __attribute__((always_inline)) {
             substitute<Order, V>(factor, x, n);
         };

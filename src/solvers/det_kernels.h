@@ -14,7 +14,6 @@
 #include "solvers/scratch.h"
 
 #include <cstddef>
-#include <type_traits>
 
 namespace lxpm {
 
@@ -59,8 +58,8 @@ public:
     using Number = typename Rows::Number;
     using Rows::Rows;
 
-    template <class K, class Pivot>
-    [[gnu::always_inline]] void bringUp(K k, Pivot pivot) {
+    template <class K, class Found>
+    [[gnu::always_inline]] void bringUp(K k, Found pivot) {
         sign = choose(Rows::moves(pivot, k), negated(sign), sign);
         Rows::bringUp(k, pivot);
     }
@@ -108,7 +107,7 @@ bool determinantsOfGroup(const Source &source, int order, T *results, std::ptrdi
 }
 
 template <class T, int Order, class Matrix>
-T determinantOfSmall(const Matrix &a) {
+T determinantOfKnownOrder(const Matrix &a) {
     if constexpr (Order <= 4) {
         return expand<Order, T>(a);
     } else {
@@ -124,7 +123,7 @@ template <class T>
     const TouchingMatrix<T> a = {copy, n};
     int small[largestCopied];
     int *const rowNumbers = n <= largestCopied ? small : reinterpret_cast<int *>(copy + std::ptrdiff_t(n) * n);
-    SignedRows<IndexedRows<T, 0, TouchingMatrix<T>>> rows(a, rowNumbers, n);
+    SignedRows<IndexedRows<T, TouchingMatrix<T>>> rows(a, rowNumbers, n);
     T result = 0;
     return multiplyPivots(rows, result) ? result : 0;
 }
@@ -133,7 +132,7 @@ template <class T>
 template <class T, int Order>
 [[gnu::always_inline]] inline T determinantOf(const Addresses<const T> &source, int n, T *copy) {
     if constexpr (Order != 0) {
-        return withMatrices([](const auto &a) { return determinantOfSmall<T, Order>(a); }, source);
+        return withViews([](const auto &a) { return determinantOfKnownOrder<T, Order>(a); }, source);
     } else {
         return determinantOfAnyOrder<T>(source, n, copy);
     }
@@ -186,14 +185,14 @@ LxpStatus determinants(bool parallel, int count, const Determinants<T> &call) {
     });
 }
 
-// Of one matrix alone.
+// Of the only matrix of a call.
 template <class T, int Order>
 [[gnu::always_inline]] inline LxpStatus determinant(const Determinants<T> &call) {
     if constexpr (Order != 0) {
         *call.results = determinantOf<T, Order>(call.source, Order, nullptr);
         return lxpStatusOk;
     } else {
-        return determinants<T>(false, 1, Determinants<T>(call));
+        return determinants<T>(false, 1, Determinants<T>(call)); // a copy: see AnyMatrix
     }
 }
 
@@ -206,10 +205,10 @@ LxpStatus DetMember<operands, T, memory>::run(const Arguments &arguments) {
     }
     const auto &[source, size, results, number] = arguments.parts;
     const int n = size.width();
-    const int count = number.value;
 
     const detail::det::Determinants<T> call = {n, source.addresses(n, n), results.first};
     if constexpr (isArray) {
+        const int count = number.value;
         const bool parallel = detail::det::threshold.isParallel(Work(n) * n * count);
         return detail::det::determinants<T>(parallel, count, call);
     } else {

@@ -6,8 +6,9 @@
 // row that was chosen for column k, with the multipliers of L in front of its diagonal.
 //
 // The pivot is the candidate of the largest magnitude, the first of equals in pivot order; NaN is never larger. In
-// lanes rows are exchanged under masks, with one object only their numbers are; the order of candidates is the same,
-// and so is every operation on an element: the products are subtracted in ascending order of columns.
+// lanes rows are exchanged under masks; of one object, of a small order whole rows in registers (register_rows.h), else
+// their numbers. The order of candidates is the same, and so is every operation on an element: the products are
+// subtracted in ascending order of columns.
 
 #include "runtime/groups.h"
 #include "runtime/lanes.h"
@@ -71,64 +72,55 @@ template <int Order, class T, class K, class Candidate>
     return pivot;
 }
 
-// Rows of an object or of a group, of known or (0) any other order.
-
 // One object: rows stay where they are, index[i] is the number of the i-th one in pivot order.
-template <class T, int Order, class Matrix>
+template <class T, class Matrix>
 class IndexedRows {
 public:
     using Number = T;
-    static constexpr int knownOrder = Order;
+    static constexpr int knownOrder = 0;
 
-    IndexedRows(const Matrix &matrix, int *rowNumbers, int order) : a(matrix), index(rowNumbers), anyOrder(order) {
-        for (int i = 0; i < order; ++i) {
+    IndexedRows(const Matrix &matrix, int *rowNumbers, int anyOrder) : a(matrix), index(rowNumbers), n(anyOrder) {
+        for (int i = 0; i < n; ++i) {
             index[i] = i;
         }
     }
 
     T &operator()(int i, int j) const { return a(index[i], j); }
 
-    [[gnu::always_inline]] int order() const { return Order != 0 ? Order : anyOrder; }
+    int order() const { return n; }
 
     Pivot<T, int> findPivot(int k) const {
-        return firstLargest<Order, T>(
-            k, order(), [&](int i) __attribute__((always_inline)) { return (*this)(i, k); });
+        return firstLargest<0, T>(k, n, [&](int i) { return (*this)(i, k); });
     }
 
     static bool moves(Pivot<T, int> pivot, int k) { return pivot.position != k; }
 
     void bringUp(int k, Pivot<T, int> pivot) { std::swap(index[k], index[pivot.position]); }
 
+    // Element (i, k) becomes the factor, and the columns behind it lose that multiple of row k.
     void subtract(int i, int k, T factor) const {
-        const int n = order();
-        const int from = k + 1;
         (*this)(i, k) = factor;
-        if constexpr (Order == 0 && std::is_same_v<Matrix, TouchingMatrix<T>>) {
+        int j = k + 1;
+        if constexpr (std::is_same_v<Matrix, TouchingMatrix<T>>) {
             T *row = &(*this)(i, 0);
             const T *other = &(*this)(k, 0);
             const Group<T> factors = Group<T>::splat(factor);
-            int j = from;
             for (; j + groupSize<T> <= n; j += groupSize<T>) {
                 (Group<T>::load(row + j) - factors * Group<T>::load(other + j)).store(row + j);
             }
-            for (; j < n; ++j) {
-                row[j] = row[j] - factor * other[j];
-            }
-        } else {
-            overRange<Order>(
-                from, n, [&](int j) __attribute__((always_inline)) {
-                    (*this)(i, j) = (*this)(i, j) - factor * (*this)(k, j);
-                });
+        }
+        for (; j < n; ++j) {
+            (*this)(i, j) = (*this)(i, j) - factor * (*this)(k, j);
         }
     }
 
 private:
     Matrix a;
     int *index;
-    int anyOrder;
+    int n;
 };
 
-// A group of objects in lanes: rows are exchanged, and their numbers with them.
+// A group of objects in lanes, of known or (0) any other order: rows are exchanged, and their numbers with them.
 template <class T, int Order>
 class LaneRows {
 public:

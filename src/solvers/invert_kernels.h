@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <type_traits>
 
 namespace lxpm {
 
@@ -101,28 +100,30 @@ inline void storeFirstLanes(Group<T> lanes, int count, T *to) {
 
 // One matrix, columns of the identity in lanes.
 
-// Four columns from column `column` on: the elements of row `row`.
-template <class T>
+// `count` columns from column `column` on: the elements of row `row`. The lanes behind the last column repeat it, so
+// that they raise no exceptions of their own.
+template <int count, class T>
 [[gnu::always_inline]] inline Lanes<T, 4> rowOfIdentity(int row, int column) {
     static constexpr T rows[15] = {0, 0, 0, 0, 0, 0, 0, 1};
-    return Lanes<T, 4>::load(rows + 7 + column - row);
+    return lastRepeated<count>(Lanes<T, 4>::load(rows + 7 + column - row));
 }
 
 template <class T, int Order, class Source, class Destination>
-LxpStatus invertRows(const Source &source, const Destination &destination) {
+LxpStatus invertKnownOrder(const Source &source, const Destination &destination) {
     using Rows = RegisterRows<T, Order>;
     Rows rows(source);
-    if (eliminate<SmallOrderRules>(rows) < Order) {
+    if (eliminate<RulesOf<Order>>(rows) < Order) {
         return lxpStatusSingularErr;
     }
     forEachOf<Rows::parts>([&](auto part) __attribute__((always_inline)) {
+        constexpr int columns = Rows::template lengthOfPart<part>;
         Lanes<T, 4> x[Order];
         forEachOf<Order>([&](auto i) __attribute__((always_inline)) {
-            x[i].vector = rowOfIdentity<T>(rows.rowNumber(i), 4 * part).vector;
+            x[i].vector = rowOfIdentity<columns, T>(rows.rowNumber(i), 4 * part).vector;
         });
         substitute<Order, Lanes<T, 4>>(rows, x, Order);
         forEachOf<Order>([&](auto i) __attribute__((always_inline)) {
-            storeSomeOfRow<Rows::template lengthOfPart<part>>(x[i], destination, i, 4 * part);
+            storeSomeOfRow<columns>(x[i], destination, i, 4 * part);
         });
     });
     return lxpStatusOk;
@@ -135,7 +136,7 @@ template <class T>
     Group<T> *const x = workspace.columns();
     copyMatrix<Part::Whole>(source, plainMatrix(a, n), n, n);
     const TouchingMatrix<T> matrix = {a, n};
-    IndexedRows<T, 0, TouchingMatrix<T>> rows(matrix, workspace.rowNumbers(), n);
+    IndexedRows<T, TouchingMatrix<T>> rows(matrix, workspace.rowNumbers(), n);
     if (eliminate<AnyOrderRules>(rows) < n) {
         return lxpStatusSingularErr;
     }
@@ -170,8 +171,8 @@ template <class T, int Order>
 [[gnu::always_inline]] inline LxpStatus invertOne(const Addresses<const T> &source, const Addresses<T> &destination,
                                                   int n, const Workspace<T> &workspace) {
     if constexpr (Order != 0) {
-        return withMatrices([](const auto &from, const auto &to) { return invertRows<T, Order>(from, to); }, source,
-                            destination);
+        return withViews([](const auto &from, const auto &to) { return invertKnownOrder<T, Order>(from, to); }, source,
+                         destination);
     } else {
         return invertAnyOrder<T>(source, destination, n, workspace);
     }
@@ -213,13 +214,13 @@ LxpStatus invertAll(bool parallel, int count, const Inversion<T> &call) {
     });
 }
 
-// One matrix alone.
+// The only matrix of a call.
 template <class T, int Order>
 [[gnu::always_inline]] inline LxpStatus invert(const Inversion<T> &call) {
     if constexpr (Order != 0) {
         return invertOne<T, Order>(call.source, call.destination, Order, Workspace<T>(nullptr, Order));
     } else {
-        return invertAll<T>(false, 1, Inversion<T>(call));
+        return invertAll<T>(false, 1, Inversion<T>(call)); // a copy: see AnyMatrix
     }
 }
 
@@ -232,10 +233,10 @@ LxpStatus InvertMember<operands, T, memory>::run(const Arguments &arguments) {
     }
     const auto &[source, destination, size, number] = arguments.parts;
     const int n = size.width();
-    const int count = number.value;
 
     const detail::invert::Inversion<T> call = {n, source.addresses(n, n), destination.addresses(n, n)};
     if constexpr (isArray) {
+        const int count = number.value;
         const bool parallel = detail::invert::threshold.isParallel(Work(n) * n * count);
         return detail::invert::invertAll<T>(parallel, count, call);
     } else {

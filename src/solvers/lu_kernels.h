@@ -127,9 +127,9 @@ bool decomposeGroup(const Source &source, const Destination &destination, int or
 
 // Orders with rules of their own work on a copy: what is written of an object that fails are the rows finished before.
 template <class T, int Order, class Source, class Destination>
-LxpStatus decomposeRows(const Source &source, int *index, const Destination &destination) {
+LxpStatus decomposeKnownOrder(const Source &source, int *index, const Destination &destination) {
     RegisterRows<T, Order> rows(source);
-    const int done = eliminate<SmallOrderRules>(rows);
+    const int done = eliminate<RulesOf<Order>>(rows);
     overRange<Order>(
         0, done, [&](auto k) __attribute__((always_inline)) {
             index[k] = rows.rowNumber(k);
@@ -141,7 +141,7 @@ LxpStatus decomposeRows(const Source &source, int *index, const Destination &des
 // Others work in the destination.
 template <class T, class Matrix>
 LxpStatus eliminateAnyOrder(const Matrix &matrix, int *index, int n) {
-    IndexedRows<T, 0, Matrix> rows(matrix, index, n);
+    IndexedRows<T, Matrix> rows(matrix, index, n);
     return eliminate<AnyOrderRules>(rows) < n ? lxpStatusSingularErr : lxpStatusOk;
 }
 
@@ -156,15 +156,15 @@ template <class T>
         return status;
     }
     copyMatrix<Part::Whole>(source, destination, n, n);
-    return withMatrices([&](const auto &a) { return eliminateAnyOrder<T>(a, call.index, call.order); }, destination);
+    return withViews([&](const auto &a) { return eliminateAnyOrder<T>(a, call.index, call.order); }, destination);
 }
 
 // Object 0.
 template <class T, int Order>
 [[gnu::always_inline]] inline LxpStatus decomposeOne(const Decomposition<T> &call) {
     if constexpr (Order != 0) {
-        return withMatrices(
-            [&](const auto &from, const auto &to) { return decomposeRows<T, Order>(from, call.index, to); },
+        return withViews(
+            [&](const auto &from, const auto &to) { return decomposeKnownOrder<T, Order>(from, call.index, to); },
             call.source, call.destination);
     } else {
         return decomposeAnyOrder<T>(call);

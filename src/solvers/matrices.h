@@ -96,7 +96,7 @@ inline Addresses<T> plainMatrix(T *first, int columns) {
 // Calls use(matrix) with a view of object 0 of each operand, as it stands: by rows if those of all touch, else element
 // by element.
 template <class Use, class... Elements>
-[[gnu::always_inline]] inline auto withMatrices(const Use &use, const Addresses<Elements> &...operands) {
+[[gnu::always_inline]] inline auto withViews(const Use &use, const Addresses<Elements> &...operands) {
     if ((operands.rowsTouch() && ...)) {
         return use(touchingMatrix(operands)...);
     }
@@ -106,8 +106,8 @@ template <class Use, class... Elements>
 // Calls use(matrix) with a view of object 0 of a source: as it stands if its rows touch, as a copy in `copy` if there
 // is room for it, else element by element.
 template <Part part, class T, std::size_t size, class Use>
-[[gnu::always_inline]] inline void withMatrix(const Addresses<const T> &source, int rows, int columns, T (&copy)[size],
-                                              const Use &use) {
+[[gnu::always_inline]] inline void withViewOrCopy(const Addresses<const T> &source, int rows, int columns,
+                                                  T (&copy)[size], const Use &use) {
     if (source.rowsTouch()) {
         use(touchingMatrix(source));
     } else if (static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns) <= size) {
@@ -118,8 +118,8 @@ template <Part part, class T, std::size_t size, class Use>
     }
 }
 
-// Calls f(i) for from <= i < to. Bound: a number above `to` that the loop is to be unrolled for, with constants, 0 if
-// it is not.
+// Calls f(i) for from <= i < to. Bound: a number not below `to` that the loop is to be unrolled for, with constants, 0
+// if it is not.
 template <int Bound, class F>
 [[gnu::always_inline]] inline void overRange(int from, int to, const F &f) {
     if constexpr (Bound != 0) {

@@ -168,7 +168,7 @@ constexpr LxpStatus statusOf(int done, Size size) {
 }
 
 template <class T, int Order, class Source, class Destination>
-LxpStatus decomposeSmall(const Source &source, const Destination &destination) {
+LxpStatus decomposeKnownOrder(const Source &source, const Destination &destination) {
     constexpr Size size = {Order, Order};
     T a[Order * Order];
     forEachOf<Order * Order>([&](auto k) __attribute__((always_inline)) { a[k] = source(k / Order, k % Order); });
@@ -188,15 +188,15 @@ template <class T>
         return status;
     }
     copyMatrix<Part::Whole>(source, destination, size.height, size.width);
-    return withMatrices([&](const auto &a) { return statusOf(reflect<0, T>(a, call.size), call.size); }, destination);
+    return withViews([&](const auto &a) { return statusOf(reflect<0, T>(a, call.size), call.size); }, destination);
 }
 
 // Object 0.
 template <class T, int Order>
 [[gnu::always_inline]] inline LxpStatus decomposeOne(const Decomposition<T> &call) {
     if constexpr (Order != 0) {
-        return withMatrices([](const auto &from, const auto &to) { return decomposeSmall<T, Order>(from, to); },
-                            call.source, call.destination);
+        return withViews([](const auto &from, const auto &to) { return decomposeKnownOrder<T, Order>(from, to); },
+                         call.source, call.destination);
     } else {
         return decomposeAnySize<T>(call);
     }
@@ -285,9 +285,9 @@ void substituteGroup(const Source &factors, const Source &right, const Destinati
     solution.template store<Order != 0, Order>(object, x);
 }
 
-// One right-hand side in x.
-template <int Order, class T, class Matrix, class Vector>
-[[gnu::always_inline]] inline void substituteOne(const Matrix &a, Vector &x, Size size) {
+// The right-hand side x, with scales that nothing else needs.
+template <class T, int Order, class Matrix, class Vector>
+[[gnu::always_inline]] inline void substituteWithScales(const Matrix &a, Vector &x, Size size) {
     const auto scale = [&](int k) __attribute__((always_inline)) {
         return scaleOf<Order, T>(a, k, size.height);
     };
@@ -301,8 +301,8 @@ template <class T>
         x[i] = *call.right.at(0, 0, i);
     }
     T copy[largestGroup];
-    withMatrix<Part::Whole>(call.factors, size.height, size.width, copy,
-                            [&](const auto &a) { substituteOne<0, T>(a, x, size); });
+    withViewOrCopy<Part::Whole>(call.factors, size.height, size.width, copy,
+                                [&](const auto &a) { substituteWithScales<T, 0>(a, x, size); });
     for (int i = 0; i < size.width; ++i) {
         *call.solution.at(0, 0, i) = x[i];
     }
@@ -315,7 +315,7 @@ template <class T, int Order>
         solveOne<Order, Part::Whole>(
             call.factors, Order, call.solution, [&](const auto &a, auto &elements) __attribute__((always_inline)) {
                 forEachOf<Order>([&](auto i) __attribute__((always_inline)) { elements[i] = *call.right.at(0, 0, i); });
-                substituteOne<Order, T>(a, elements, Size{Order, Order});
+                substituteWithScales<T, Order>(a, elements, Size{Order, Order});
             });
     } else {
         substituteAnySize<T>(call, x);
@@ -338,7 +338,7 @@ LxpStatus substituteObjects(const Substitution<T> &call, T *x, int first, int co
     }
     LxpStatus status = lxpStatusOk;
     T copy[Order != 0 ? Order * Order : largestGroup];
-    withMatrix<Part::Whole>(call.factors, size.height, size.width, copy, [&](const auto &a) {
+    withViewOrCopy<Part::Whole>(call.factors, size.height, size.width, copy, [&](const auto &a) {
         T scales[Order != 0 ? Order : largestGroup];
         const int scalesNeeded = size.height <= largestGroup ? size.reflectors() : 0; // in lanes only
         for (int k = 0; k < scalesNeeded; ++k) {
@@ -371,13 +371,13 @@ LxpStatus substituteAll(bool parallel, int count, const Substitution<T> &call) {
                       [&](const Share &share) { return run(share.scratchOr(call.buffer), share.first, share.count); });
 }
 
-// With one right-hand side alone.
+// The only right-hand side of a call.
 template <class T, int Order>
-[[gnu::always_inline]] inline LxpStatus substitute(const Substitution<T> &call) {
+[[gnu::always_inline]] inline LxpStatus substituteSingle(const Substitution<T> &call) {
     if constexpr (Order != 0) {
         return substituteOne<T, Order>(call, nullptr);
     } else {
-        return substituteAll<T>(false, 1, Substitution<T>(call));
+        return substituteAll<T>(false, 1, Substitution<T>(call)); // a copy: see AnyMatrix
     }
 }
 
@@ -427,7 +427,8 @@ LxpStatus QRBackSubstMember<operands, T, memory>::run(const Arguments &arguments
         const bool parallel = rowOf<QRBackSubstMember, detail::qr::thresholds>.isParallel(work);
         return detail::qr::substituteAll<T>(parallel, count, call);
     } else {
-        return detail::qr::withOrderOf(call.size, [&](auto order) { return detail::qr::substitute<T, order>(call); });
+        return detail::qr::withOrderOf(call.size,
+                                       [&](auto order) { return detail::qr::substituteSingle<T, order>(call); });
     }
 }
 

@@ -10,7 +10,6 @@
 #include "solvers/matrices.h"
 
 #include <type_traits>
-#include <utility>
 
 namespace lxpm {
 
@@ -114,7 +113,9 @@ public:
             constexpr int column = K::value - 4 * part; // of the factor
             if constexpr (column < 4) {
                 Quad &row = rows[I::value][part];
-                const Quad difference = row - factors * rows[K::value][part];
+                // Zeros beside the columns that count, so that what is not used raises no exceptions.
+                const Quad pivotRow = firstLanesOf<column + 1>(Quad{}, rows[K::value][part]);
+                const Quad difference = row - factors * pivotRow;
                 row = firstLanesOf<column>(row, firstLanesOf<column + 1>(factors, difference));
             }
         });

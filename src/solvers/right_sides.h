@@ -35,12 +35,12 @@ struct RightSides {
 template <Part part, class T, class Solve>
 [[gnu::noinline]] void solveAnyOrder(Addresses<const T> factors, int size, Addresses<T> solution, const Solve &solve) {
     if (size > largestGroup) {
-        withMatrices([&](const auto &a) { solve(a, AnyVector<T>{solution}); }, factors);
+        withViews([&](const auto &a) { solve(a, AnyVector<T>{solution}); }, factors);
         return;
     }
     T copy[largestGroup];
     T x[largestGroup];
-    withMatrix<part>(factors, size, size, copy, [&](const auto &a) { solve(a, x); });
+    withViewOrCopy<part>(factors, size, size, copy, [&](const auto &a) { solve(a, x); });
     for (int i = 0; i < size; ++i) {
         *solution.at(0, 0, i) = x[i];
     }
@@ -53,7 +53,7 @@ template <int Order, Part part, class T, class Solve>
         solveAnyOrder<part>(factors, size, solution, solve);
     } else {
         T x[Order];
-        withMatrices(
+        withViews(
             [&](const auto &a) __attribute__((always_inline)) { solve(a, x); }, factors);
         overRange<Order>(
             0, size, [&](int i) __attribute__((always_inline)) { *solution.at(0, 0, i) = x[i]; });
