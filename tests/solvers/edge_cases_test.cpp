@@ -681,6 +681,7 @@ TYPED_TEST(Solvers, ElementPointersAboveTheDiagonalAreNotFollowed) {
             Objects<T> expected(n, count);
             expected.oneByOne({"", factorCholesky, factorCholesky, lxpStatusOk}, n, 0, count);
             EXPECT_EQ(objects, expected) << n;
+            std::copy_n(Objects<T>(n, count).dst.begin(), n * n, objects.dst.begin());
             EXPECT_EQ(LXPM_BY_POINTERS_OF_TYPE(lxpmCholeskyDecomp_m, from.data(), 0, to.data(), 0, n), lxpStatusOk);
             EXPECT_EQ(objects, expected) << n;
 
