@@ -108,9 +108,13 @@ public:
             for (; j + groupSize<T> <= n; j += groupSize<T>) {
                 (Group<T>::load(row + j) - factors * Group<T>::load(other + j)).store(row + j);
             }
-        }
-        for (; j < n; ++j) {
-            (*this)(i, j) = (*this)(i, j) - factor * (*this)(k, j);
+            for (; j < n; ++j) {
+                row[j] = row[j] - factor * other[j];
+            }
+        } else {
+            for (; j < n; ++j) {
+                (*this)(i, j) = (*this)(i, j) - factor * (*this)(k, j);
+            }
         }
     }
 
