@@ -73,7 +73,8 @@ public:
 
     template <class I, class J>
     [[gnu::always_inline]] Number operator()(I, J) const {
-        return rows[I::value][J::value / 4].vector[J::value % 4];
+        // Opaque: Clang would compute with whole rows, of which it uses one element.
+        return opaque(rows[I::value][J::value / 4].vector[J::value % 4]);
     }
 
     template <class K>
@@ -113,8 +114,9 @@ public:
             constexpr int column = K::value - 4 * part; // of the factor
             if constexpr (column < 4) {
                 Quad &row = rows[I::value][part];
-                // Zeros beside the columns that count, so that what is not used raises no exceptions.
-                const Quad pivotRow = firstLanesOf<column + 1>(Quad{}, rows[K::value][part]);
+                // Zeros beside the columns that count, so that what is not used raises no exceptions; opaque, because
+                // Clang leaves out what does not change a result.
+                const Quad pivotRow = opaque(firstLanesOf<column + 1>(Quad{}, rows[K::value][part]));
                 const Quad difference = row - factors * pivotRow;
                 row = firstLanesOf<column>(row, firstLanesOf<column + 1>(factors, difference));
             }
