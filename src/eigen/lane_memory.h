@@ -11,7 +11,6 @@
 
 #include <array>
 #include <cstddef>
-#include <utility>
 
 namespace lxpm {
 
@@ -74,10 +73,7 @@ private:
         if (!source.rowsTouch()) {
             for (int i = 0; i < rows; ++i) {
                 for (int j = 0; j < columns; ++j) {
-                    *to = [&]<std::size_t... lane>(std::index_sequence<lane...>) {
-                        return L{typename L::Vector{*source.at(object + lane, i, j)...}};
-                    }
-                    (std::make_index_sequence<lanes>());
+                    *to = L::of([&](auto lane) { return *source.at(object + lane, i, j); });
                     to += step;
                 }
             }

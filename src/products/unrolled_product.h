@@ -15,7 +15,6 @@
 #include <array>
 #include <cstddef>
 #include <type_traits>
-#include <utility>
 
 namespace lxpm {
 
@@ -32,17 +31,15 @@ public:
 
     static ElementRow zero() { return {}; }
 
-    // One by one: element(i) is the i-th one. A register is made of all its elements at once: GCC sends it through
-    // memory for each that it is given later.
+    // One by one: element(i) is the i-th one.
     template <class F>
     [[gnu::always_inline]] static ElementRow of(const F &element) {
         ElementRow row;
         forEachOf<registers>([&](auto r) __attribute__((always_inline)) {
-            row.part[r] = [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
-                constexpr int first = r * lanes;
-                return Lanes<T, lanes>{{(first + lane < N ? T(element(first + lane)) : T(0))...}};
-            }
-            (std::make_integer_sequence<int, lanes>());
+            row.part[r] = Lanes<T, lanes>::of([&](auto lane) __attribute__((always_inline))->T {
+                constexpr int i = r * lanes + lane;
+                return i < N ? element(i) : T(0);
+            });
         });
         return row;
     }

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <utility>
 
 namespace lxpm {
 
@@ -168,10 +167,7 @@ private:
 
 template <class T>
 [[gnu::always_inline]] inline Group<T> gathered(const Pointers<const T> &from) {
-    return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
-        return Group<T>{typename Group<T>::Vector{*from[lane]...}};
-    }
-    (std::make_integer_sequence<int, groupSize<T>>());
+    return Group<T>::of([&](auto lane) __attribute__((always_inline)) { return *from[lane]; });
 }
 
 template <class T>
@@ -188,10 +184,9 @@ template <int Rows, class T>
     std::array<Group<T>, Rows> numbers;
 #pragma GCC unroll 8
     for (int i = 0; i < Rows; ++i) {
-        numbers[i] = [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
-            return Group<T>{typename Group<T>::Vector{static_cast<T>(rowOf[lane * Rows + i])...}};
-        }
-        (std::make_integer_sequence<int, groupSize<T>>());
+        numbers[i] = Group<T>::of([&](auto lane) __attribute__((always_inline)) {
+            return static_cast<T>(rowOf[lane * Rows + i]);
+        });
     }
     return numbers;
 }

@@ -66,6 +66,16 @@ struct Lanes {
         (std::make_index_sequence<N>());
     }
 
+    // element(lane) in each lane, a constant. All at once: GCC sends a register through memory for each lane that it is
+    // given later.
+    template <class F>
+    [[gnu::always_inline]] static Lanes of(const F &element) {
+        return [&]<int... lane>(std::integer_sequence<int, lane...>) __attribute__((always_inline)) {
+            return Lanes{Vector{element(std::integral_constant<int, lane>())...}};
+        }
+        (std::make_integer_sequence<int, N>());
+    }
+
     friend Lanes operator+(Lanes a, Lanes b) { return {a.vector + b.vector}; }
     friend Lanes operator-(Lanes a, Lanes b) { return {a.vector - b.vector}; }
     friend Lanes operator*(Lanes a, Lanes b) { return {a.vector * b.vector}; }

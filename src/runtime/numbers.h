@@ -46,6 +46,17 @@ inline V opaque(V x) {
     return x;
 }
 
+// One element of a register. Clang would compute with the whole register where one element is used, and raise
+// exceptions in lanes that are not; GCC does not, and would take an opaque element out again for each use.
+template <int lane, class T, int N>
+[[gnu::always_inline]] inline T oneLane(Lanes<T, N> x) {
+#ifdef __clang__
+    return opaque(x.vector[lane]);
+#else
+    return x.vector[lane];
+#endif
+}
+
 #define LXPM_ON_ELEMENTS(T)                                                                                            \
     inline bool isLess(T a, T b) {                                                                                     \
         return a < b;                                                                                                  \

@@ -21,9 +21,14 @@ template <int count, class T>
 
 template <int count, class T>
 [[gnu::always_inline]] inline auto loadSomeOfRow(const AnyMatrix<T> &a, int row, int column) {
-    std::remove_const_t<T> elements[count];
-    forEachOf<count>([&](auto j) __attribute__((always_inline)) { elements[j] = a(row, column + j); });
-    return loadFirst<count>(elements);
+    using Element = std::remove_const_t<T>;
+    return Lanes<Element, 4>::of([&](auto j) __attribute__((always_inline))->Element {
+        if constexpr (j < count) {
+            return a(row, column + j);
+        } else {
+            return 0;
+        }
+    });
 }
 
 template <int count, class T>
@@ -73,8 +78,7 @@ public:
 
     template <class I, class J>
     [[gnu::always_inline]] Number operator()(I, J) const {
-        // Opaque: Clang would compute with whole rows, of which it uses one element.
-        return opaque(rows[I::value][J::value / 4].vector[J::value % 4]);
+        return oneLane<J::value % 4>(rows[I::value][J::value / 4]);
     }
 
     template <class K>
