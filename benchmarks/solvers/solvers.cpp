@@ -44,9 +44,9 @@ struct Work {
 template <class T>
 using Function = std::function<LxpStatus(Work<T> &)>;
 
-// One function for each type.
+// One function for each type. k: the object, where a call is of one.
 #define LXPM_BENCH_CALL(name, ...)                                                                                     \
-    [](Work<T> &w) {                                                                                                   \
+    [](Work<T> &w, [[maybe_unused]] std::ptrdiff_t k = 0) {                                                            \
         constexpr int size = sizeof(T);                                                                                \
         if constexpr (size == sizeof(float)) {                                                                         \
             return name##_32f(__VA_ARGS__);                                                                            \
@@ -55,20 +55,17 @@ using Function = std::function<LxpStatus(Work<T> &)>;
         }                                                                                                              \
     }
 
-// The same for a call of each object k.
-#define LXPM_BENCH_CALLS(name, ...)                                                                                    \
-    [](Work<T> &w) {                                                                                                   \
-        LxpStatus status = lxpStatusOk;                                                                                \
-        for (std::ptrdiff_t k = 0; k < w.count && status == lxpStatusOk; ++k) {                                        \
-            constexpr int size = sizeof(T);                                                                            \
-            if constexpr (size == sizeof(float)) {                                                                     \
-                status = name##_32f(__VA_ARGS__);                                                                      \
-            } else {                                                                                                   \
-                status = name##_64f(__VA_ARGS__);                                                                      \
-            }                                                                                                          \
-        }                                                                                                              \
-        return status;                                                                                                 \
-    }
+// A call of each object k.
+template <class T, class Call>
+Function<T> ofEach(const Call &call) {
+    return [call](Work<T> &w) {
+        LxpStatus status = lxpStatusOk;
+        for (std::ptrdiff_t k = 0; k < w.count && status == lxpStatusOk; ++k) {
+            status = call(w, k);
+        }
+        return status;
+    };
+}
 
 template <class T>
 Function<T> factorLU() {
@@ -154,22 +151,23 @@ void appendOrder(std::vector<Case> &cases, int n) {
                               size, w.width, w.count));
 
     append<T>(cases, "LUDecomp_m", n, n, area, area, Results::OfAnotherForm, nullptr,
-              LXPM_BENCH_CALLS(lxpmLUDecomp_m, w.matrix(w.numbers, k), w.row(), size, &w.index[k * w.width],
-                               w.matrix(w.dst, k), w.row(), size, w.width));
+              ofEach<T>(LXPM_BENCH_CALL(lxpmLUDecomp_m, w.matrix(w.numbers, k), w.row(), size, &w.index[k * w.width],
+                                        w.matrix(w.dst, k), w.row(), size, w.width)));
     append<T>(cases, "CholeskyDecomp_m", n, n, area, area, Results::OfAnotherForm, nullptr,
-              LXPM_BENCH_CALLS(lxpmCholeskyDecomp_m, w.matrix(w.matrices.data(), k), w.row(), size, w.matrix(w.dst, k),
-                               w.row(), size, w.width));
+              ofEach<T>(LXPM_BENCH_CALL(lxpmCholeskyDecomp_m, w.matrix(w.matrices.data(), k), w.row(), size,
+                                        w.matrix(w.dst, k), w.row(), size, w.width)));
     append<T>(cases, "LUBackSubst_mv", n, n, area + n, n, Results::Compared, factorLU<T>(),
-              LXPM_BENCH_CALLS(lxpmLUBackSubst_mv, w.matrix(w.factors.data(), k), w.row(), size, &w.index[k * w.width],
-                               w.right + k * w.width, size, w.dst + k * w.width, size, w.width));
+              ofEach<T>(LXPM_BENCH_CALL(lxpmLUBackSubst_mv, w.matrix(w.factors.data(), k), w.row(), size,
+                                        &w.index[k * w.width], w.right + k * w.width, size, w.dst + k * w.width, size,
+                                        w.width)));
     append<T>(cases, "CholeskyBackSubst_mv", n, n, area + n, n, Results::Compared, factorCholesky<T>(),
-              LXPM_BENCH_CALLS(lxpmCholeskyBackSubst_mv, w.matrix(w.factors.data(), k), w.row(), size,
-                               w.right + k * w.width, size, w.dst + k * w.width, size, w.width));
+              ofEach<T>(LXPM_BENCH_CALL(lxpmCholeskyBackSubst_mv, w.matrix(w.factors.data(), k), w.row(), size,
+                                        w.right + k * w.width, size, w.dst + k * w.width, size, w.width)));
     append<T>(cases, "Det_m", n, n, area, 1, Results::Compared, nullptr,
-              LXPM_BENCH_CALLS(lxpmDet_m, w.matrix(w.matrices.data(), k), w.row(), size, w.width, w.dst + k));
+              ofEach<T>(LXPM_BENCH_CALL(lxpmDet_m, w.matrix(w.matrices.data(), k), w.row(), size, w.width, w.dst + k)));
     append<T>(cases, "Invert_m", n, n, area, area, Results::Compared, nullptr,
-              LXPM_BENCH_CALLS(lxpmInvert_m, w.matrix(w.matrices.data(), k), w.row(), size, w.matrix(w.dst, k), w.row(),
-                               size, w.width));
+              ofEach<T>(LXPM_BENCH_CALL(lxpmInvert_m, w.matrix(w.matrices.data(), k), w.row(), size, w.matrix(w.dst, k),
+                                        w.row(), size, w.width)));
 }
 
 template <class T>
@@ -185,11 +183,12 @@ void appendQR(std::vector<Case> &cases, int height, int width) {
               LXPM_BENCH_CALL(lxpmQRBackSubst_mva, w.factors.data(), w.row(), size, w.buffer.data(), w.right,
                               w.rightRow(), size, w.dst, w.row(), size, w.width, w.height, w.count));
     append<T>(cases, "QRDecomp_m", height, width, area, area, Results::OfAnotherForm, nullptr,
-              LXPM_BENCH_CALLS(lxpmQRDecomp_m, w.matrix(w.numbers, k), w.row(), size, w.buffer.data(),
-                               w.matrix(w.dst, k), w.row(), size, w.width, w.height));
-    append<T>(cases, "QRBackSubst_mv", height, width, area + height, width, Results::Compared, factorQR<T>(),
-              LXPM_BENCH_CALLS(lxpmQRBackSubst_mv, w.matrix(w.factors.data(), k), w.row(), size, w.buffer.data(),
-                               w.right + k * w.height, size, w.dst + k * w.width, size, w.width, w.height));
+              ofEach<T>(LXPM_BENCH_CALL(lxpmQRDecomp_m, w.matrix(w.numbers, k), w.row(), size, w.buffer.data(),
+                                        w.matrix(w.dst, k), w.row(), size, w.width, w.height)));
+    append<T>(
+        cases, "QRBackSubst_mv", height, width, area + height, width, Results::Compared, factorQR<T>(),
+        ofEach<T>(LXPM_BENCH_CALL(lxpmQRBackSubst_mv, w.matrix(w.factors.data(), k), w.row(), size, w.buffer.data(),
+                                  w.right + k * w.height, size, w.dst + k * w.width, size, w.width, w.height)));
 }
 
 template <class T>

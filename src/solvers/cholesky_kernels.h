@@ -92,9 +92,7 @@ struct Decomposition {
     Addresses<const T> source;
     Addresses<T> destination;
 
-    Decomposition ofObject(std::ptrdiff_t object) const {
-        return {order, source.from(object), destination.from(object)};
-    }
+    Decomposition from(std::ptrdiff_t object) const { return {order, source.from(object), destination.from(object)}; }
 };
 
 template <class T, int Order, class Source, class Destination>
@@ -157,7 +155,7 @@ LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &source, const auto &destination) {
         return decomposeGroup<T, Order>(source, destination, n, object);
     };
-    const auto one = [&](std::ptrdiff_t object) { return decomposeOne<T, Order>(call.ofObject(object)); };
+    const auto one = [&](std::ptrdiff_t object) { return decomposeOne<T, Order>(call.from(object)); };
     return byGroups<T, Order>(n <= largestCopied, first, count, inLanes, one, ForObjects{call.source, n, n},
                               ForObjects{call.destination, n, n});
 }
@@ -196,7 +194,7 @@ struct Substitution {
     Addresses<const T> right;
     Addresses<T> solution;
 
-    Substitution ofObject(std::ptrdiff_t object) const {
+    Substitution from(std::ptrdiff_t object) const {
         return {order, factors.from(object), right.from(object), solution.from(object)};
     }
 };
@@ -231,7 +229,7 @@ template <class T, int Order>
 template <class T, int Order>
 LxpStatus substituteObjects(const Substitution<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto one = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.ofObject(object)); };
+    const auto one = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.from(object)); };
     if (!call.factors.isSingle()) {
         const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &factors, const auto &right,
                                  const auto &solution) {

@@ -98,7 +98,7 @@ struct Decomposition {
     int *index;
     Addresses<T> destination;
 
-    Decomposition ofObject(std::ptrdiff_t object) const {
+    Decomposition from(std::ptrdiff_t object) const {
         return {order, source.from(object), index + object * order, destination.from(object)};
     }
 };
@@ -177,7 +177,7 @@ LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &source, const auto &destination) {
         return decomposeGroup<T, Order>(source, destination, n, call.index + object * n, object);
     };
-    const auto one = [&](std::ptrdiff_t object) { return decomposeOne<T, Order>(call.ofObject(object)); };
+    const auto one = [&](std::ptrdiff_t object) { return decomposeOne<T, Order>(call.from(object)); };
     return byGroups<T, Order>(n <= largestCopied, first, count, inLanes, one, ForObjects{call.source, n, n},
                               ForObjects{call.destination, n, n});
 }
@@ -197,7 +197,7 @@ struct Substitution {
     Addresses<const T> right;
     Addresses<T> solution;
 
-    Substitution ofObject(std::ptrdiff_t object) const {
+    Substitution from(std::ptrdiff_t object) const {
         const int *const indexOfObject = factors.isSingle() ? index : index + object * order;
         return {order, factors.from(object), indexOfObject, right.from(object), solution.from(object)};
     }
@@ -237,7 +237,7 @@ template <class T, int Order>
 template <class T, int Order>
 LxpStatus substituteMany(const Substitution<T> &call, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto oneByOne = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.ofObject(object)); };
+    const auto oneByOne = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.from(object)); };
     const auto inPivotOrder = [index = call.index](int i) { return index[i]; };
     const auto run = [&](const auto &factors) {
         const auto solve = [&]<class V>(V * x) __attribute__((always_inline)) {
@@ -265,7 +265,7 @@ LxpStatus substituteEach(const Substitution<T> &call, int first, int count) {
                              const auto &solution) {
         substituteGroup<T, Order>(factors, right, solution, n, call.index + object * n, object);
     };
-    const auto one = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.ofObject(object)); };
+    const auto one = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.from(object)); };
     const auto right = call.right.transposed(); // for its rows to be permuted
     return byGroups<T, Order>(n <= largestCopied, first, count, inLanes, one, ForObjects{call.factors, n, n},
                               ForObjects{right, n, 1}, ForObjects{call.solution, 1, n});

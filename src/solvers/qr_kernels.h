@@ -146,9 +146,7 @@ struct Decomposition {
     Addresses<const T> source;
     Addresses<T> destination;
 
-    Decomposition ofObject(std::ptrdiff_t object) const {
-        return {size, source.from(object), destination.from(object)};
-    }
+    Decomposition from(std::ptrdiff_t object) const { return {size, source.from(object), destination.from(object)}; }
 };
 
 template <class T, int Order, class Source, class Destination>
@@ -214,7 +212,7 @@ LxpStatus decomposeObjects(const Decomposition<T> &call, int first, int count) {
     const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &source, const auto &destination) {
         return decomposeGroup<T, Order>(source, destination, size, object);
     };
-    const auto one = [&](std::ptrdiff_t object) { return decomposeOne<T, Order>(call.ofObject(object)); };
+    const auto one = [&](std::ptrdiff_t object) { return decomposeOne<T, Order>(call.from(object)); };
     return byGroups<T, Order>(size.fits(largestGroup), first, count, inLanes, one,
                               ForObjects{call.source, size.height, size.width},
                               ForObjects{call.destination, size.height, size.width});
@@ -264,7 +262,7 @@ struct Substitution {
     Addresses<const T> right;
     Addresses<T> solution;
 
-    Substitution ofObject(std::ptrdiff_t object) const {
+    Substitution from(std::ptrdiff_t object) const {
         return {size, factors.from(object), buffer, right.from(object), solution.from(object)};
     }
 };
@@ -326,7 +324,7 @@ template <class T, int Order>
 template <class T, int Order>
 LxpStatus substituteObjects(const Substitution<T> &call, T *x, int first, int count) {
     const Size size = sizeOf<Order>(call.size);
-    const auto one = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.ofObject(object), x); };
+    const auto one = [&](std::ptrdiff_t object) { return substituteOne<T, Order>(call.from(object), x); };
     if (!call.factors.isSingle() || count < groupSize<T>) {
         const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &factors, const auto &right,
                                  const auto &solution) {

@@ -3,6 +3,7 @@
 
 // Cases of the solvers that have a name of their own.
 
+#include "support/raised_flags.h"
 #include "support/thread_count.h"
 
 #include <lxpm.h>
@@ -19,8 +20,6 @@
 #include <string>
 #include <utility>
 #include <vector>
-
-#include <xmmintrin.h>
 
 namespace lxpm::test {
 
@@ -713,18 +712,6 @@ TYPED_TEST(Solvers, ElementPointersAboveTheDiagonalAreNotFollowed) {
 
 // --- Exceptions ---
 
-// The flags that a call raises.
-template <class F>
-unsigned flagsOf(const F &call) {
-    constexpr unsigned flags = 0x3f;
-    const unsigned before = _mm_getcsr();
-    _mm_setcsr(before & ~flags);
-    call();
-    const unsigned raised = _mm_getcsr() & flags;
-    _mm_setcsr(before);
-    return raised;
-}
-
 // What a kernel computes beside what is asked for must not show: nothing here that is needed is invalid or inexact.
 TYPED_TEST(Solvers, NothingIsRaisedByWhatIsNotNeeded) {
     using T = TypeParam;
@@ -748,14 +735,14 @@ TYPED_TEST(Solvers, NothingIsRaisedByWhatIsNotNeeded) {
             std::vector<int> index(n * count);
             for (const std::vector<T> *matrices : {&large, &graded}) {
                 const T *src = matrices->data();
-                EXPECT_EQ(flagsOf([&] { factorLU(src, index.data(), dst.data(), n); }), 0U) << n;
-                EXPECT_EQ(flagsOf([&] { factorLU(src, index.data(), dst.data(), n, count); }), 0U) << n;
+                EXPECT_EQ(flagsRaisedBy([&] { factorLU(src, index.data(), dst.data(), n); }), 0U) << n;
+                EXPECT_EQ(flagsRaisedBy([&] { factorLU(src, index.data(), dst.data(), n, count); }), 0U) << n;
                 if (n > 4 || matrices == &large) { // smaller ones are expanded, with such products
-                    EXPECT_EQ(flagsOf([&] { determinant(*matrices, n); }), 0U) << n;
+                    EXPECT_EQ(flagsRaisedBy([&] { determinant(*matrices, n); }), 0U) << n;
                 }
             }
-            EXPECT_EQ(flagsOf([&] { invert(large.data(), nullptr, dst.data(), n); }), 0U) << n;
-            EXPECT_EQ(flagsOf([&] { invert(large.data(), nullptr, dst.data(), n, count); }), 0U) << n;
+            EXPECT_EQ(flagsRaisedBy([&] { invert(large.data(), nullptr, dst.data(), n); }), 0U) << n;
+            EXPECT_EQ(flagsRaisedBy([&] { invert(large.data(), nullptr, dst.data(), n, count); }), 0U) << n;
         }
     }
 }
