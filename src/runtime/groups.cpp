@@ -70,15 +70,18 @@ namespace {
 using detail::Access;
 using detail::GroupOperand;
 using detail::inLanes;
+using detail::loadEights;
 using detail::loadSome;
 using detail::Pointers;
+using detail::storeEights;
 using detail::storeSome;
 
-// A row of each object, by fours. The last of four or more elements go together with some that are done again.
+// A row of each object, by eights, then by fours. The last of four or more elements go together with some that are done
+// again.
 template <class T>
 [[gnu::always_inline]] inline void loadRow(const Pointers<const T> &from, int columns, Group<T> *to) {
     if (columns >= 4) {
-        for (int j = 0; j < columns; j += 4) {
+        for (int j = loadEights<T>(from, columns, to); j < columns; j += 4) {
             loadSome<4, T>(from, std::min(j, columns - 4), to);
         }
     } else if (columns == 3) {
@@ -93,7 +96,7 @@ template <class T>
 template <class T>
 [[gnu::always_inline]] inline void storeRow(const Group<T> *from, int columns, const Pointers<T> &to) {
     if (columns >= 4) {
-        for (int j = 0; j < columns; j += 4) {
+        for (int j = storeEights<T>(from, columns, to); j < columns; j += 4) {
             storeSome<4, T>(from, std::min(j, columns - 4), to);
         }
     } else if (columns == 3) {

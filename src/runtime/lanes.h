@@ -239,6 +239,25 @@ inline Lanes<float, 4> highHalf(Lanes<float, 8> lanes) {
     return {_mm256_extractf128_ps(lanes.vector, 1)};
 }
 
+// A half of a (0, 1) or of b (2, 3), and another one. Where both stay in their places, nothing has to cross.
+template <int low, int high>
+inline Lanes<float, 8> halves(Lanes<float, 8> a, Lanes<float, 8> b) {
+    if constexpr (low == 0 && high == 3) {
+        return {_mm256_blend_ps(a.vector, b.vector, 0xf0)};
+    } else {
+        return {_mm256_permute2f128_ps(a.vector, b.vector, low | high << 4)};
+    }
+}
+
+template <int low, int high>
+inline Lanes<double, 4> halves(Lanes<double, 4> a, Lanes<double, 4> b) {
+    if constexpr (low == 0 && high == 3) {
+        return {_mm256_blend_pd(a.vector, b.vector, 0xc)};
+    } else {
+        return {_mm256_permute2f128_pd(a.vector, b.vector, low | high << 4)};
+    }
+}
+
 // One element from memory in all lanes.
 inline Lanes<float, 8> broadcast(const float *from) {
     return {_mm256_broadcast_ss(from)};
@@ -317,25 +336,21 @@ inline Lanes<double, 4> withElement2Of(Lanes<double, 4> third, Lanes<double, 4> 
 //
 //     ((x0 + x4) + (x2 + x6)) + ((x1 + x5) + (x3 + x7))    or    (x0 + x2) + (x1 + x3)
 inline Lanes<float, 8> sumsOverLanes(const std::array<Lanes<float, 8>, 8> &r) {
-    const auto halves = [&](int a, int b) { // sums of halves: those of a | those of b
-        return _mm256_add_ps(_mm256_permute2f128_ps(r[a].vector, r[b].vector, 0x20),
-                             _mm256_permute2f128_ps(r[a].vector, r[b].vector, 0x31));
+    const auto ofHalves = [&](int a, int b) { // those of a | those of b
+        return (halves<0, 2>(r[a], r[b]) + halves<1, 3>(r[a], r[b])).vector;
     };
     const auto quarters = [&](__m256 a, __m256 b) { // in each half: two of a, two of b
         return _mm256_add_ps(_mm256_shuffle_ps(a, b, 0x44), _mm256_shuffle_ps(a, b, 0xee));
     };
-    const __m256 even = quarters(halves(0, 4), halves(1, 5)); // 0 0 1 1 | 4 4 5 5
-    const __m256 odd = quarters(halves(2, 6), halves(3, 7));  // 2 2 3 3 | 6 6 7 7
+    const __m256 even = quarters(ofHalves(0, 4), ofHalves(1, 5)); // 0 0 1 1 | 4 4 5 5
+    const __m256 odd = quarters(ofHalves(2, 6), ofHalves(3, 7));  // 2 2 3 3 | 6 6 7 7
     return {_mm256_add_ps(_mm256_shuffle_ps(even, odd, 0x88), _mm256_shuffle_ps(even, odd, 0xdd))};
 }
 
 inline Lanes<double, 4> sumsOverLanes(const std::array<Lanes<double, 4>, 4> &r) {
-    const auto halves = [&](int a, int b) {
-        return _mm256_add_pd(_mm256_permute2f128_pd(r[a].vector, r[b].vector, 0x20),
-                             _mm256_permute2f128_pd(r[a].vector, r[b].vector, 0x31));
-    };
-    const __m256d even = halves(0, 2); // 0 0 | 2 2
-    const __m256d odd = halves(1, 3);  // 1 1 | 3 3
+    const auto ofHalves = [&](int a, int b) { return (halves<0, 2>(r[a], r[b]) + halves<1, 3>(r[a], r[b])).vector; };
+    const __m256d even = ofHalves(0, 2); // 0 0 | 2 2
+    const __m256d odd = ofHalves(1, 3);  // 1 1 | 3 3
     return {_mm256_add_pd(_mm256_unpacklo_pd(even, odd), _mm256_unpackhi_pd(even, odd))};
 }
 

@@ -74,6 +74,10 @@ template <class L>
 inline Twice<L> root(Twice<L> x) {
     return {root(x.low), root(x.high)};
 }
+template <class L>
+inline Twice<L> larger(Twice<L> x, Twice<L> y) {
+    return {larger(x.low, y.low), larger(x.high, y.high)};
+}
 template <class M, class L>
 inline Twice<L> choose(TwiceMask<M> mask, Twice<L> a, Twice<L> b) {
     return {choose(mask.low, a.low, b.low), choose(mask.high, a.high, b.high)};

@@ -52,25 +52,6 @@ inline Group<double> shuffled(Group<double> a, Group<double> b) {
     return {_mm256_shuffle_pd(a.vector, b.vector, ofHalf | ofHalf << 2)};
 }
 
-// A half of a (0, 1) or of b (2, 3), and another one. Where both stay in their places, nothing has to cross.
-template <int low, int high>
-inline Group<float> halves(Group<float> a, Group<float> b) {
-    if constexpr (low == 0 && high == 3) {
-        return {_mm256_blend_ps(a.vector, b.vector, 0xf0)};
-    } else {
-        return {_mm256_permute2f128_ps(a.vector, b.vector, low | high << 4)};
-    }
-}
-
-template <int low, int high>
-inline Group<double> halves(Group<double> a, Group<double> b) {
-    if constexpr (low == 0 && high == 3) {
-        return {_mm256_blend_pd(a.vector, b.vector, 0xc)};
-    } else {
-        return {_mm256_permute2f128_pd(a.vector, b.vector, low | high << 4)};
-    }
-}
-
 } // namespace detail
 
 template <class T>
@@ -84,7 +65,7 @@ template <class T>
     const auto a = Group<T>::load(from);
     const auto b = Group<T>::load(from + groupSize<T>);
     const auto c = Group<T>::load(from + 2 * groupSize<T>);
-    return {detail::halves<0, 3>(a, b), detail::halves<1, 2>(a, c), detail::halves<0, 3>(b, c)};
+    return {halves<0, 3>(a, b), halves<1, 2>(a, c), halves<0, 3>(b, c)};
 }
 
 [[gnu::always_inline]] inline Triples<float> turned(const Triples<float> &triples) {
@@ -119,9 +100,9 @@ template <class T>
 template <class T>
 [[gnu::always_inline]] inline void writeTriples(T *to, const Triples<T> &element) {
     const auto [first, second, third] = turnedBack(element);
-    detail::halves<0, 2>(first, second).store(to);
-    detail::halves<0, 3>(third, first).store(to + groupSize<T>);
-    detail::halves<1, 3>(second, third).store(to + 2 * groupSize<T>);
+    halves<0, 2>(first, second).store(to);
+    halves<0, 3>(third, first).store(to + groupSize<T>);
+    halves<1, 3>(second, third).store(to + 2 * groupSize<T>);
 }
 
 // Each of a group of elements as many times as there are registers.

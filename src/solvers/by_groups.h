@@ -6,6 +6,7 @@
 #include "runtime/groups.h"
 #include "runtime/numbers.h"
 #include "runtime/twice.h"
+#include "solvers/matrices.h"
 
 #include <lxpm/types.h>
 
@@ -49,6 +50,40 @@ template <class Kernel, class... Arguments>
 }
 
 } // namespace detail
+
+// Numbers of kernels with groups side by side, from lanes and back: load(group, elements) and store(group, elements) do
+// so for one of the groups. Of `count` numbers, known or (0) at most `most`.
+template <int known, int most, class V, class Load>
+[[gnu::always_inline]] inline void loadGroups(V *to, int count, const Load &load) {
+    if constexpr (groupsIn<V> == 1) {
+        load(std::integral_constant<int, 0>(), to);
+    } else {
+        forEachOf<groupsIn<V>>([&](auto group) __attribute__((always_inline)) {
+            Group<ElementOf<V>> elements[most];
+            load(group, elements);
+            overRange<known>(
+                0, count, [&](int i) __attribute__((always_inline)) {
+                    groupOf<group>(to[i]).vector = elements[i].vector;
+                });
+        });
+    }
+}
+
+template <int known, int most, class V, class Store>
+[[gnu::always_inline]] inline void storeGroups(const V *from, int count, const Store &store) {
+    if constexpr (groupsIn<V> == 1) {
+        store(std::integral_constant<int, 0>(), from);
+    } else {
+        forEachOf<groupsIn<V>>([&](auto group) __attribute__((always_inline)) {
+            Group<ElementOf<V>> elements[most];
+            overRange<known>(
+                0, count, [&](int i) __attribute__((always_inline)) {
+                    elements[i].vector = groupOf<group>(from[i]).vector;
+                });
+            store(group, elements);
+        });
+    }
+}
 
 // The objects of one thread in ascending order: whole groups in lanes if they fit, what remains one by one; the first
 // status other than lxpStatusOk ends it. kernel(lanes, object, operands...) computes the objects from that one on in

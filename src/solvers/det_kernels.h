@@ -97,7 +97,7 @@ bool determinantsOfGroup(const Source &source, int order, T *results, std::ptrdi
         result = expand<Order, Group<T>>(TouchingMatrix<Group<T>>{a, Order});
     } else {
         Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
-        SignedRows<LaneRows<T, Order>> rows(a, rowNumbers, n);
+        SignedRows<LaneRows<Group<T>, Order>> rows(a, rowNumbers, n);
         if (!multiplyPivots(rows, result)) {
             return false;
         }

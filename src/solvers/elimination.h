@@ -124,75 +124,158 @@ private:
     int n;
 };
 
-// A group of objects in lanes, of known or (0) any other order: rows are exchanged, and their numbers with them.
-template <class T, int Order>
-class LaneRows {
+// Objects in lanes, of known or (0) any other order: rows are exchanged where the pivot is another one's.
+template <class V, int Order>
+class LaneMatrix {
 public:
-    using Number = Group<T>;
+    using Number = V;
     static constexpr int knownOrder = Order;
 
-    LaneRows(Number *elements, Number *rowNumbers, int order) : a(elements), index(rowNumbers), anyOrder(order) {
-        for (int i = 0; i < order; ++i) {
-            index[i] = constant<Number>(i);
-        }
-    }
+    LaneMatrix(V *elements, int order) : a(elements), anyOrder(order) {}
 
-    [[gnu::always_inline]] Number &operator()(int i, int j) const { return a[i * order() + j]; }
+    [[gnu::always_inline]] V &operator()(int i, int j) const { return a[i * order() + j]; }
     [[gnu::always_inline]] int order() const { return Order != 0 ? Order : anyOrder; }
 
     // Where row k makes room for another one: the first one in which the magnitude is found again.
-    using Moves = MaskOf<Number>;
+    using Moves = MaskOf<V>;
 
-    [[gnu::always_inline]] Pivot<Number, Moves> findPivot(int k) const {
-        Number ofOthers = constant<Number>(0);
+    [[gnu::always_inline]] Pivot<V, Moves> findPivot(int k) const {
+        V ofOthers = constant<V>(0);
         overRange<Order>(
             k + 1, order(), [&](int i) __attribute__((always_inline)) {
                 ofOthers = larger(magnitude((*this)(i, k)), ofOthers);
             });
-        const Number ofRow = magnitude((*this)(k, k));
+        const V ofRow = magnitude((*this)(k, k));
         return {larger(ofOthers, ofRow), isLess(ofRow, ofOthers)};
     }
 
-    [[gnu::always_inline]] static Moves moves(Pivot<Number, Moves> pivot, int) { return pivot.position; }
+    [[gnu::always_inline]] static Moves moves(Pivot<V, Moves> pivot, int) { return pivot.position; }
 
-    [[gnu::always_inline]] void bringUp(int k, Pivot<Number, Moves> pivot) {
+protected:
+    // Calls use(isChosen): of the rows behind k, the lanes in which they are the pivot's.
+    template <class Use>
+    [[gnu::always_inline]] void withChosen(int k, Pivot<V, Moves> pivot, const Use &use) const {
         const int n = order();
-        MaskOf<Number> isChosen[Order != 0 ? Order : largestCopied];
-        MaskOf<Number> isLeft = pivot.position;
+        Moves isChosen[Order != 0 ? Order : largestCopied];
+        Moves isLeft = pivot.position;
         overRange<Order>(
             k + 1, n - 1, [&](int i) __attribute__((always_inline)) {
                 isChosen[i] = both(isLeft, isEqual(magnitude((*this)(i, k)), pivot.magnitude));
                 isLeft = without(isLeft, isChosen[i]);
             });
         isChosen[n - 1] = isLeft;
-        const auto exchangeColumn = [&](Number * column, int step) __attribute__((always_inline)) {
-            const Number old = column[k * step];
-            Number chosen = old;
-            overRange<Order>(
-                k + 1, n, [&](int i) __attribute__((always_inline)) {
-                    Number &element = column[i * step];
-                    chosen = choose(isChosen[i], element, chosen);
-                    element = choose(isChosen[i], old, element);
-                });
-            column[k * step] = chosen;
-        };
-        overRange<Order>(
-            0, n, [&](int j) __attribute__((always_inline)) { exchangeColumn(a + j, n); });
-        exchangeColumn(index, 1);
+        use(isChosen);
     }
 
-    [[gnu::always_inline]] void subtract(int i, int k, Number factor) const {
-        (*this)(i, k) = factor;
+    // Row k of a column of n elements, `step` apart, changes places with the chosen one.
+    [[gnu::always_inline]] void exchange(int k, const Moves *isChosen, V *column, int step) const {
+        const V old = column[k * step];
+        V chosen = old;
         overRange<Order>(
-            k + 1, order(), [&](int j) __attribute__((always_inline)) {
-                (*this)(i, j) = (*this)(i, j) - factor * (*this)(k, j);
+            k + 1, order(), [&](int i) __attribute__((always_inline)) {
+                V &element = column[i * step];
+                chosen = choose(isChosen[i], element, chosen);
+                element = choose(isChosen[i], old, element);
+            });
+        column[k * step] = chosen;
+    }
+
+    // Row i loses that multiple of row k, from column `from` on.
+    [[gnu::always_inline]] void subtractFrom(int from, V *matrix, int i, int k, V factor) const {
+        const int n = order();
+        overRange<Order>(
+            from, n, [&](int j) __attribute__((always_inline)) {
+                matrix[i * n + j] = matrix[i * n + j] - factor * matrix[k * n + j];
             });
     }
 
+    V *a;
+
 private:
-    Number *a;
-    Number *index;
     int anyOrder;
+};
+
+// With the factors and the numbers of the rows.
+template <class V, int Order>
+class LaneRows : public LaneMatrix<V, Order> {
+    using Matrix = LaneMatrix<V, Order>;
+
+public:
+    LaneRows(V *elements, V *rowNumbers, int order) : Matrix(elements, order), index(rowNumbers) {
+        for (int i = 0; i < order; ++i) {
+            index[i] = constant<V>(i);
+        }
+    }
+
+    [[gnu::always_inline]] void bringUp(int k, Pivot<V, typename Matrix::Moves> pivot) {
+        const int n = this->order();
+        this->withChosen(
+            k, pivot, [&](const auto &isChosen) __attribute__((always_inline)) {
+                overRange<Order>(
+                    0, n, [&](int j) __attribute__((always_inline)) { this->exchange(k, isChosen, this->a + j, n); });
+                this->exchange(k, isChosen, index, 1);
+            });
+    }
+
+    [[gnu::always_inline]] void subtract(int i, int k, V factor) const {
+        (*this)(i, k) = factor;
+        this->subtractFrom(k + 1, this->a, i, k, factor);
+    }
+
+private:
+    V *index;
+};
+
+// With the identity beside it, of which elimination makes L^-1 * P. Its products are subtracted from an element in the
+// order of a substitution. The factors are not kept.
+template <class V, int Order>
+class LaneRowsBesideIdentity : public LaneMatrix<V, Order> {
+    using Matrix = LaneMatrix<V, Order>;
+
+public:
+    // `beside`: for the result.
+    LaneRowsBesideIdentity(V *elements, V *beside) : Matrix(elements, Order), x(beside) {}
+
+    [[gnu::always_inline]] void bringUp(int k, Pivot<V, typename Matrix::Moves> pivot) {
+        this->withChosen(
+            k, pivot, [&](const auto &isChosen) __attribute__((always_inline)) {
+                overRange<Order>(
+                    k, Order, [&](int j) __attribute__((always_inline)) {
+                        this->exchange(k, isChosen, this->a + j, Order);
+                    });
+                if (k == 0) {
+                    exchangeOfIdentity(pivot.position, isChosen);
+                    return;
+                }
+                overRange<Order>(
+                    0, Order, [&](int j) __attribute__((always_inline)) { this->exchange(k, isChosen, x + j, Order); });
+            });
+    }
+
+    [[gnu::always_inline]] void subtract(int i, int k, V factor) const {
+        this->subtractFrom(k + 1, this->a, i, k, factor);
+        this->subtractFrom(0, x, i, k, factor);
+    }
+
+private:
+    // The identity, row 0 in the place of the chosen one.
+    [[gnu::always_inline]] void exchangeOfIdentity(typename Matrix::Moves moves,
+                                                   const typename Matrix::Moves *isChosen) const {
+        const V zero = constant<V>(0);
+        const V one = constant<V>(1);
+        x[0] = choose(moves, zero, one);
+        overRange<Order>(
+            1, Order, [&](int i) __attribute__((always_inline)) {
+                overRange<Order>(
+                    1, Order, [&](int j) __attribute__((always_inline)) {
+                        x[i * Order + j] = i == j ? choose(isChosen[i], zero, one) : zero;
+                    });
+                x[i] = only(isChosen[i], one);
+                x[i * Order] = x[i];
+            });
+    }
+
+    V *x;
 };
 
 // Returns the number of columns in front of the first singular one, of any lane; the order if there is none. A singular

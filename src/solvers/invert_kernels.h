@@ -33,30 +33,67 @@ struct Inversion {
     Addresses<T> destination;
 };
 
-// A group's matrices in lanes, one column of the identity after the other.
-template <class T, int Order, class Source, class Destination>
-bool invertGroup(const Source &source, const Destination &destination, int order, std::ptrdiff_t object) {
+// A column of a matrix of lanes.
+template <class V, int Order>
+struct LaneColumn {
+    V *first;
+
+    [[gnu::always_inline]] V &operator[](int i) const { return first[i * Order]; }
+};
+
+// The inverse of matrices in lanes, of known or (0) any other order, or false. Of a known order, elimination goes over
+// the identity beside the matrix; else one column of the identity is solved for after the other.
+template <int Order, class V>
+[[gnu::always_inline]] inline bool invertLanes(V *a, V *inverse, int n) {
+    if constexpr (Order != 0) {
+        LaneRowsBesideIdentity<V, Order> rows(a, inverse);
+        if (eliminate<RulesOf<Order>>(rows) < Order) {
+            return false;
+        }
+        overRange<Order>(
+            0, Order, [&](int column) __attribute__((always_inline)) {
+                const LaneColumn<V, Order> x = {inverse + column};
+                substituteBackwards<Order, V>(rows, x, Order);
+            });
+    } else {
+        V rowNumbers[largestCopied];
+        LaneRows<V, 0> rows(a, rowNumbers, n);
+        if (eliminate<RulesOf<0>>(rows) < n) {
+            return false;
+        }
+        for (int column = 0; column < n; ++column) {
+            V x[largestCopied];
+            for (int i = 0; i < n; ++i) {
+                x[i] = only(isEqual(rowNumbers[i], constant<V>(column)), constant<V>(1));
+            }
+            substitute<0, V>(rows, x, n);
+            for (int i = 0; i < n; ++i) {
+                inverse[i * n + column] = x[i];
+            }
+        }
+    }
+    return true;
+}
+
+// V: the numbers of one or two groups.
+template <class V, int Order, class Source, class Destination>
+bool invertGroups(const Source &source, const Destination &destination, int order, std::ptrdiff_t object) {
+    using T = ElementOf<V>;
+    constexpr int most = Order != 0 ? Order * Order : largestGroup;
     const int n = Order != 0 ? Order : order;
-    Group<T> a[Order != 0 ? Order * Order : largestGroup];
-    Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
-    source.template load<Order, Order>(object, a);
-    LaneRows<T, Order> rows(a, rowNumbers, n);
-    if (eliminate<RulesOf<Order>>(rows) < n) {
+    V a[most];
+    loadGroups<Order * Order, most>(
+        a, n * n, [&](auto group, Group<T> *elements) __attribute__((always_inline)) {
+            source.template load<Order, Order>(object + group * groupSize<T>, elements);
+        });
+    V inverse[most];
+    if (!invertLanes<Order>(a, inverse, n)) {
         return false;
     }
-    Group<T> inverse[Order != 0 ? Order * Order : largestGroup];
-    overRange<Order>(
-        0, n, [&](int column) __attribute__((always_inline)) {
-            Group<T> x[Order != 0 ? Order : largestCopied];
-            overRange<Order>(
-                0, n, [&](int i) __attribute__((always_inline)) {
-                    x[i] = only(isEqual(rowNumbers[i], constant<Group<T>>(column)), constant<Group<T>>(1));
-                });
-            substitute<Order, Group<T>>(rows, x, n);
-            overRange<Order>(
-                0, n, [&](int i) __attribute__((always_inline)) { inverse[i * n + column] = x[i]; });
+    storeGroups<Order * Order, most>(
+        inverse, n * n, [&](auto group, const Group<T> *elements) __attribute__((always_inline)) {
+            destination.template store<Order, Order>(object + group * groupSize<T>, elements);
         });
-    destination.template store<Order, Order>(object, inverse);
     return true;
 }
 
@@ -182,14 +219,15 @@ template <class T, int Order>
 template <class T, int Order>
 LxpStatus invertObjects(const Inversion<T> &call, const Workspace<T> &workspace, int first, int count) {
     const int n = Order != 0 ? Order : call.order;
-    const auto inLanes = [&](auto, std::ptrdiff_t object, const auto &source, const auto &destination) {
-        return invertGroup<T, Order>(source, destination, n, object);
+    const auto inLanes = [&](auto lanes, std::ptrdiff_t object, const auto &source, const auto &destination) {
+        return invertGroups<decltype(lanes), Order>(source, destination, n, object);
     };
     const auto one = [&](std::ptrdiff_t object) {
         return invertOne<T, Order>(call.source.from(object), call.destination.from(object), n, workspace);
     };
-    return byGroups<T, Order>(n <= largestCopied, first, count, inLanes, one, ForObjects{call.source, n, n},
-                              ForObjects{call.destination, n, n});
+    constexpr int atOnce = Order == 3 || Order == 4 ? 2 : 1; // larger ones keep a group busy
+    return byGroups<T, Order, atOnce>(n <= largestCopied, first, count, inLanes, one, ForObjects{call.source, n, n},
+                                      ForObjects{call.destination, n, n});
 }
 
 template <class T>

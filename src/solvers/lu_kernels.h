@@ -110,7 +110,7 @@ bool decomposeGroup(const Source &source, const Destination &destination, int or
     Group<T> a[Order != 0 ? Order * Order : largestGroup];
     Group<T> rowNumbers[Order != 0 ? Order : largestCopied];
     source.template load<Order, Order>(object, a);
-    LaneRows<T, Order> rows(a, rowNumbers, n);
+    LaneRows<Group<T>, Order> rows(a, rowNumbers, n);
     if (eliminate<RulesOf<Order>>(rows) < n) {
         return false;
     }

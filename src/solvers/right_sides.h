@@ -91,16 +91,10 @@ template <class V, int Order, class Source, class Destination, class RowOf, clas
             });
         });
     solve(x);
-    Group<T> results[groups * most];
-    overRange<Order>(
-        0, width, [&](int i) __attribute__((always_inline)) {
-            forEachOf<groups>([&](auto group) __attribute__((always_inline)) {
-                results[group * width + i].vector = groupOf<group>(x[i]).vector;
-            });
+    storeGroups<Order, most>(
+        x, width, [&](auto group, const Group<T> *results) __attribute__((always_inline)) {
+            solution.template store<Order != 0, Order>(object + group * groupSize<T>, results);
         });
-    forEachOf<groups>([&](auto group) __attribute__((always_inline)) {
-        solution.template store<Order != 0, Order>(object + group * groupSize<T>, results + group * width);
-    });
 }
 
 } // namespace detail
