@@ -54,8 +54,27 @@ GroupOperand<Element>::GroupOperand(const Addresses<Element> &operand, int heigh
              : addresses.movesByBytes() && addresses.transposed().rowsTouch() ? Access::ColumnsTouch
                                                                               : Access::OneByOne;
     isDense = access == Access::RowsTouch && (rows == 1 || addresses.step[1] == columns * size);
-    isPlain = isDense && (addresses.pointers == nullptr || addresses.pointerStep == Steps{1, 0, 0});
-    objectsFollow = isDense && addresses.pointers == nullptr && addresses.step[0] == columns * size * rows;
+}
+
+// A pointer leads to all objects, or to each.
+template <class Element>
+bool GroupOperand<Element>::leadsToObjects() const {
+    return addresses.pointers == nullptr || addresses.pointerStep == Steps{1, 0, 0};
+}
+
+template <class Element>
+bool GroupOperand<Element>::holds(Objects objects) const {
+    switch (objects) {
+    case Objects::Follow:
+        return isDense && addresses.pointers == nullptr &&
+               addresses.step[0] == std::ptrdiff_t(sizeof(Element)) * columns * rows;
+    case Objects::Anywhere:
+        return isDense && leadsToObjects();
+    case Objects::WithGaps:
+        return access == Access::RowsTouch && leadsToObjects();
+    default:
+        return access == (rows > 1 && columns > 1 ? Access::ColumnsTouch : Access::RowsTouch) && leadsToObjects();
+    }
 }
 
 template struct GroupOperand<const float>;
@@ -71,9 +90,12 @@ using detail::Access;
 using detail::GroupOperand;
 using detail::inLanes;
 using detail::loadEights;
+using detail::loadLength;
 using detail::loadSome;
 using detail::Pointers;
+using detail::readableLengthOf;
 using detail::storeEights;
+using detail::storeLength;
 using detail::storeSome;
 
 // A row of each object, by eights, then by fours. The last of four or more elements go together with some that are done
@@ -181,24 +203,6 @@ template <class T>
     }
 }
 
-// Row numbers that stand object after object, in lanes.
-template <int Rows, class T>
-[[gnu::always_inline]] inline std::array<Group<T>, Rows> numbersInLanes(const int *rowOf) {
-    std::array<Group<T>, Rows> numbers;
-#pragma GCC unroll 8
-    for (int i = 0; i < Rows; ++i) {
-        numbers[i] = Group<T>::of([&](auto lane) __attribute__((always_inline)) {
-            return static_cast<T>(rowOf[lane * Rows + i]);
-        });
-    }
-    return numbers;
-}
-
-// Where a load by fours of a row may end without leaving it.
-constexpr int readableLengthOf(Part part, int row, int columns) {
-    return part == Part::Whole ? columns : std::min(columns, (row / 4 + 1) * 4);
-}
-
 // Calls f(element of the group, where it stands in each object).
 template <Part part, bool byIndex, class Element, class F>
 [[gnu::always_inline]] inline void forEachElement(const GroupOperand<Element> &operand, std::ptrdiff_t object, int rows,
@@ -248,13 +252,26 @@ void loadGroup(const GroupOperand<const T> &from, std::ptrdiff_t object, Group<T
             loadRow<T>(places.at(0, 0), rows * columns, to);
             return;
         }
+        const auto rowOfObjects = [&](int i) __attribute__((always_inline)) {
+            return byIndex ? places.atRow(rowOf, rows, i, 0) : places.at(i, 0);
+        };
+        if constexpr (isKnown) {
+            forEachOf<Rows>([&](auto i) __attribute__((always_inline)) {
+                loadLength<readableLengthOf(part, i, Columns), T>(rowOfObjects(i), to + i * Columns);
+            });
+            return;
+        }
         for (int i = 0; i < rows; ++i) {
-            loadRow<T>(byIndex ? places.atRow(rowOf, rows, i, 0) : places.at(i, 0), readableLengthOf(part, i, columns),
-                       to + i * columns);
+            loadRow<T>(rowOfObjects(i), readableLengthOf(part, i, columns), to + i * columns);
         }
     } else if (from.access == Access::ColumnsTouch && !byIndex) {
         const Places<const T> places(from.addresses, object);
-        Group<T> column[isKnown ? Rows : largestGroup];
+        if constexpr (isKnown) {
+            detail::loadColumns<Rows, Columns, T>(
+                [&](int j) __attribute__((always_inline)) { return places.at(0, j); }, to);
+            return;
+        }
+        Group<T> column[largestGroup];
         for (int j = 0; j < columns; ++j) {
             loadRow<T>(places.at(0, j), rows, column);
             for (int i = 0; i < rows; ++i) {
@@ -281,20 +298,32 @@ void storeGroup(const GroupOperand<T> &to, std::ptrdiff_t object, const Group<T>
     constexpr bool isKnown = Rows != 0;
     const int rows = isKnown ? Rows : to.rows;
     const int columns = isKnown ? Columns : to.columns;
-    const bool isPermuted = byIndex && isKnown;
     if (to.access == Access::RowsTouch) {
         const Places<T> places(to.addresses, object);
         if (to.isDense && !byIndex && part == Part::Whole) {
             storeRow<T>(from, rows * columns, places.at(0, 0));
             return;
         }
+        const auto rowOfObjects = [&](int i) __attribute__((always_inline)) {
+            return byIndex ? places.atRow(rowOf, rows, i, 0) : places.at(i, 0);
+        };
+        if constexpr (isKnown) {
+            forEachOf<Rows>([&](auto i) __attribute__((always_inline)) {
+                storeLength<lengthOf(part, i, Columns), T>(from + i * Columns, rowOfObjects(i));
+            });
+            return;
+        }
         for (int i = 0; i < rows; ++i) {
-            storeRow<T>(from + i * columns, lengthOf(part, i, columns),
-                        byIndex ? places.atRow(rowOf, rows, i, 0) : places.at(i, 0));
+            storeRow<T>(from + i * columns, lengthOf(part, i, columns), rowOfObjects(i));
         }
     } else if (to.access == Access::ColumnsTouch && !byIndex) {
         const Places<T> places(to.addresses, object);
-        Group<T> column[isKnown ? Rows : largestGroup];
+        if constexpr (isKnown) {
+            detail::storeColumns<part, Rows, Columns, T>(
+                from, [&](int i, int j) __attribute__((always_inline)) { return places.at(i, j); });
+            return;
+        }
+        Group<T> column[largestGroup];
         for (int j = 0; j < columns; ++j) {
             const int first = part == Part::LowerTriangle ? j : 0;
             for (int i = first; i < rows; ++i) {
@@ -308,10 +337,6 @@ void storeGroup(const GroupOperand<T> &to, std::ptrdiff_t object, const Group<T>
             nullptr, [=](int element, const Pointers<T> &places) __attribute__((always_inline)) {
                 from[element].store(places[0]);
             });
-    } else if (isPermuted && (to.access == Access::ColumnsTouch || to.access == Access::ObjectsTouch)) {
-        Group<T> elements[isKnown ? Rows * Columns : 1];
-        permuteRows<Permuting::Backwards, Rows, Columns>(from, numbersInLanes<Rows, T>(rowOf).data(), elements);
-        storeGroup<part, false, Rows, Columns, T>(to, object, elements, nullptr);
     } else {
         placeGroup<part, byIndex, T>(to, object, from, rowOf);
     }

@@ -36,10 +36,17 @@ constexpr int lengthOf(Part part, int row, int columns) {
 
 namespace detail {
 
+// Where a load by fours of a row may end without leaving it.
+constexpr int readableLengthOf(Part part, int row, int columns) {
+    return part == Part::Whole ? columns : std::min(columns, (row / 4 + 1) * 4);
+}
+
 enum class Access { RowsTouch, ColumnsTouch, ObjectsTouch, OneByOne };
 
-// Of objects without gaps: whether the next one follows without a gap, too, so that all are a known distance apart.
-enum class Objects { Follow, Anywhere };
+// Kinds of objects: without gaps, the next one following without a gap, too, so that all are a known distance apart;
+// without gaps, anywhere; with gaps between their rows; by columns, with gaps between them. (A vector has no columns to
+// go by: of the last kind are vectors whose elements touch.)
+enum class Objects { Follow, Anywhere, WithGaps, ByColumns };
 
 // An operand, its element pointers replaced by steps in bytes where they are as regular as those.
 template <class Element>
@@ -50,9 +57,13 @@ struct GroupOperand {
     Access access;
     int rows;
     int columns;
-    bool isDense;       // the elements of an object stand in one row
-    bool isPlain;       // and a pointer leads to all objects or to each
-    bool objectsFollow; // and there is nothing between two objects
+    bool isDense; // the elements of an object stand in one row
+
+    // Whether what is known of such objects holds.
+    bool holds(Objects objects) const;
+
+private:
+    bool leadsToObjects() const;
 };
 
 extern template struct GroupOperand<const float>;
@@ -215,11 +226,49 @@ template <int Length, class T>
     }
 }
 
-template <int Rows, int Columns, class Element>
-[[gnu::always_inline]] inline Pointers<Element> rowsOfObjects(const Pointers<Element> &objects, const int *rowOf,
-                                                              int row) {
+// What leads from row to row, in bytes.
+template <Objects objects, int Columns, class Element>
+[[gnu::always_inline]] inline std::ptrdiff_t rowStepOf(const GroupOperand<Element> &operand) {
+    const bool isKnown = objects == Objects::Follow || objects == Objects::Anywhere;
+    return isKnown ? Columns * std::ptrdiff_t(sizeof(Element)) : operand.addresses.step[1];
+}
+
+// Row `line` of each object, or column, by its step; or the row that rowOf gives for it.
+template <class Element>
+[[gnu::always_inline]] inline Pointers<Element> lineOfObjects(const Pointers<Element> &objects, std::ptrdiff_t step,
+                                                              std::ptrdiff_t line) {
+    return inLanes<Element>([&](std::ptrdiff_t lane) { return shifted(objects[lane], line * step); });
+}
+
+template <int Rows, class Element>
+[[gnu::always_inline]] inline Pointers<Element> rowOfObjects(const Pointers<Element> &objects, std::ptrdiff_t step,
+                                                             const int *rowOf, int row) {
     return inLanes<Element>(
-        [&](std::ptrdiff_t lane) { return objects[lane] + std::ptrdiff_t(rowOf[lane * Rows + row]) * Columns; });
+        [&](std::ptrdiff_t lane) { return shifted(objects[lane], rowOf[lane * Rows + row] * step); });
+}
+
+// Columns of each object, where they touch: column(j) leads to their elements.
+template <int Rows, int Columns, class T, class Column>
+[[gnu::always_inline]] inline void loadColumns(const Column &column, Group<T> *to) {
+    forEachOf<Columns>([&](auto j) __attribute__((always_inline)) {
+        Group<T> elements[Rows];
+        loadLength<Rows, T>(column(j), elements);
+        forEachOf<Rows>([&](auto i)
+                            __attribute__((always_inline)) { to[i * Columns + j].vector = elements[i].vector; });
+    });
+}
+
+// From the first row on that is part of it, column(i, j) leads to element (i, j).
+template <Part part, int Rows, int Columns, class T, class Column>
+[[gnu::always_inline]] inline void storeColumns(const Group<T> *from, const Column &column) {
+    forEachOf<Columns>([&](auto j) __attribute__((always_inline)) {
+        constexpr int first = part == Part::LowerTriangle ? j : 0;
+        Group<T> elements[Rows];
+        forEachOf<Rows - first>([&](auto i) __attribute__((always_inline)) {
+            elements[i].vector = from[(first + i) * Columns + j].vector;
+        });
+        storeLength<Rows - first, T>(elements, column(first, j));
+    });
 }
 
 // To and from functions that take an address: a known number of elements goes by way of a copy, since what an address
@@ -257,12 +306,49 @@ template <int Rows, int Columns, Part part = Part::Whole, class T, class Store>
 
 } // namespace detail
 
+// Rows in another order in each object: row i of the result is row rowOf[i], or the other way round.
+enum class Permuting { Forwards, Backwards };
+
+template <Permuting permuting, int Rows, int Columns, class L>
+[[gnu::always_inline]] inline void permuteRows(const L *from, const L *rowOf, L *to) {
+#pragma GCC unroll 8
+    for (int i = 0; i < Rows; ++i) {
+#pragma GCC unroll 8
+        for (int j = 0; j < Columns; ++j) {
+            to[i * Columns + j] = from[j];
+        }
+#pragma GCC unroll 8
+        for (int k = 1; k < Rows; ++k) {
+            const auto isMeant = permuting == Permuting::Forwards ? isEqual(rowOf[i], constant<L>(k))
+                                                                  : isEqual(rowOf[k], constant<L>(i));
+#pragma GCC unroll 8
+            for (int j = 0; j < Columns; ++j) {
+                to[i * Columns + j] = choose(isMeant, from[k * Columns + j], to[i * Columns + j]);
+            }
+        }
+    }
+}
+
+// Row numbers that stand object after object, in lanes.
+template <int Rows, class T>
+[[gnu::always_inline]] inline std::array<Group<T>, Rows> numbersInLanes(const int *rowOf) {
+    std::array<Group<T>, Rows> numbers;
+#pragma GCC unroll 8
+    for (int i = 0; i < Rows; ++i) {
+        numbers[i] = Group<T>::of([&](auto lane) __attribute__((always_inline)) {
+            return static_cast<T>(rowOf[lane * Rows + i]);
+        });
+    }
+    return numbers;
+}
+
 // How operands are read and written, object after object from `object` on, row by row.
 //
 //   Rows, Columns   the sizes where they are known beforehand, else 0
 //   rowOf           row i of lane l is row rowOf[l * rows + i] of its object
+//   inLanes         the same numbers in lanes: row inLanes[i]
 
-// Objects without gaps, of known sizes.
+// Objects of one kind and known sizes.
 
 template <class T, detail::Objects objects>
 class PlainGroupSource {
@@ -271,24 +357,51 @@ public:
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to) const {
-        detail::loadLength<Rows * Columns, T>(detail::pointersTo<objects, Rows * Columns>(from, object), to);
+        loadPart<Part::Whole, Rows, Columns>(object, to);
     }
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
-        const auto places = detail::pointersTo<objects, Rows * Columns>(from, object);
-#pragma GCC unroll 8
-        for (int i = 0; i < Rows; ++i) {
-            detail::loadLength<Columns, T>(detail::rowsOfObjects<Rows, Columns>(places, rowOf, i), to + i * Columns);
+        if constexpr (objects == detail::Objects::ByColumns && Columns > 1) {
+            Group<T> elements[Rows * Columns];
+            load<Rows, Columns>(object, elements);
+            permuteRows<Permuting::Forwards, Rows, Columns>(elements, numbersInLanes<Rows, T>(rowOf).data(), to);
+        } else {
+            const auto places = detail::pointersTo<objects, Rows * Columns>(from, object);
+            const std::ptrdiff_t step = detail::rowStepOf<objects, Columns>(from);
+            forEachOf<Rows>([&](auto row) __attribute__((always_inline)) {
+                detail::loadLength<Columns, T>(detail::rowOfObjects<Rows>(places, step, rowOf, row),
+                                               to + row * Columns);
+            });
         }
     }
 
     template <int Order>
     [[gnu::always_inline]] void loadLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
-        load<Order, Order>(object, to);
+        loadPart<Part::LowerTriangle, Order, Order>(object, to);
     }
 
 private:
+    template <Part part, int Rows, int Columns>
+    [[gnu::always_inline]] void loadPart(std::ptrdiff_t object, Group<T> *to) const {
+        using detail::Objects;
+        const auto places = detail::pointersTo<objects, Rows * Columns>(from, object);
+        if constexpr (Rows == 1 || objects == Objects::Follow || objects == Objects::Anywhere) {
+            detail::loadLength<Rows * Columns, T>(places, to);
+        } else if constexpr (objects == Objects::ByColumns && Columns > 1) {
+            detail::loadColumns<Rows, Columns, T>(
+                [&](int j)
+                    __attribute__((always_inline)) { return detail::lineOfObjects(places, from.addresses.step[2], j); },
+                to);
+        } else {
+            const std::ptrdiff_t step = detail::rowStepOf<objects, Columns>(from);
+            forEachOf<Rows>([&](auto row) __attribute__((always_inline)) {
+                detail::loadLength<detail::readableLengthOf(part, row, Columns), T>(
+                    detail::lineOfObjects(places, step, row), to + row * Columns);
+            });
+        }
+    }
+
     const detail::GroupOperand<const T> &from;
 };
 
@@ -299,29 +412,54 @@ public:
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from) const {
-        detail::storeLength<Rows * Columns, T>(from, detail::pointersTo<objects, Rows * Columns>(to, object));
+        if constexpr (Rows == 1 || objects == detail::Objects::Follow || objects == detail::Objects::Anywhere) {
+            detail::storeLength<Rows * Columns, T>(from, detail::pointersTo<objects, Rows * Columns>(to, object));
+        } else {
+            storePart<Part::Whole, Rows, Columns>(object, from);
+        }
     }
 
-    template <int Rows, int Columns>
-    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
-        const auto places = detail::pointersTo<objects, Rows * Columns>(to, object);
-#pragma GCC unroll 8
-        for (int i = 0; i < Rows; ++i) {
-            detail::storeLength<Columns, T>(from + i * Columns, detail::rowsOfObjects<Rows, Columns>(places, rowOf, i));
+    template <int Order>
+    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf,
+                                      const Group<T> *inLanes) const {
+        if constexpr (objects == detail::Objects::ByColumns) {
+            Group<T> inPlace[Order * Order];
+            permuteRows<Permuting::Backwards, Order, Order>(from, inLanes, inPlace);
+            store<Order, Order>(object, inPlace);
+        } else {
+            const auto places = detail::pointersTo<objects, Order * Order>(to, object);
+            const std::ptrdiff_t step = detail::rowStepOf<objects, Order>(to);
+            forEachOf<Order>([&](auto row) __attribute__((always_inline)) {
+                detail::storeLength<Order, T>(from + row * Order,
+                                              detail::rowOfObjects<Order>(places, step, rowOf, row));
+            });
         }
     }
 
     template <int Order>
     [[gnu::always_inline]] void storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
-        const auto places = detail::pointersTo<objects, Order * Order>(to, object);
-        forEachOf<Order>([&](auto row) __attribute__((always_inline)) {
-            const auto rowOfObjects =
-                detail::inLanes<T>([&](std::ptrdiff_t lane) { return places[lane] + row * Order; });
-            detail::storeLength<row + 1, T>(from + row * Order, rowOfObjects);
-        });
+        storePart<Part::LowerTriangle, Order, Order>(object, from);
     }
 
 private:
+    template <Part part, int Rows, int Columns>
+    [[gnu::always_inline]] void storePart(std::ptrdiff_t object, const Group<T> *from) const {
+        const auto places = detail::pointersTo<objects, Rows * Columns>(to, object);
+        if constexpr (objects == detail::Objects::ByColumns && Columns > 1) {
+            detail::storeColumns<part, Rows, Columns, T>(
+                from, [&](std::ptrdiff_t i, int j) __attribute__((always_inline)) {
+                    const auto column = detail::lineOfObjects(places, to.addresses.step[2], j);
+                    return detail::inLanes<T>([&](std::ptrdiff_t lane) { return column[lane] + i; });
+                });
+        } else {
+            const std::ptrdiff_t step = detail::rowStepOf<objects, Columns>(to);
+            forEachOf<Rows>([&](auto row) __attribute__((always_inline)) {
+                detail::storeLength<lengthOf(part, row, Columns), T>(from + row * Columns,
+                                                                     detail::lineOfObjects(places, step, row));
+            });
+        }
+    }
+
     const detail::GroupOperand<T> &to;
 };
 
@@ -333,8 +471,7 @@ public:
     // Objects of `rows` rows of `columns` elements.
     GroupSource(const Addresses<const T> &operand, int rows, int columns) : from(operand, rows, columns) {}
 
-    bool isPlain() const { return from.isPlain; }
-    bool objectsFollow() const { return from.objectsFollow; }
+    bool holds(detail::Objects objects) const { return from.holds(objects); }
     template <detail::Objects objects>
     PlainGroupSource<T, objects> plain() const {
         return PlainGroupSource<T, objects>(from);
@@ -373,8 +510,7 @@ class GroupDestination {
 public:
     GroupDestination(const Addresses<T> &operand, int rows, int columns) : to(operand, rows, columns) {}
 
-    bool isPlain() const { return to.isPlain; }
-    bool objectsFollow() const { return to.objectsFollow; }
+    bool holds(detail::Objects objects) const { return to.holds(objects); }
     template <detail::Objects objects>
     PlainGroupDestination<T, objects> plain() const {
         return PlainGroupDestination<T, objects>(to);
@@ -386,10 +522,20 @@ public:
             from, [&](const Group<T> *elements) { storeAny<Rows, Columns>(object, elements); });
     }
 
-    template <int Rows, int Columns>
-    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf) const {
-        detail::storeThrough<Rows, Columns>(
-            from, [&](const Group<T> *elements) { storeAny<Rows, Columns>(object, elements, rowOf); });
+    // Unless rows are written one by one anyway, they are exchanged in lanes.
+    template <int Order>
+    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf,
+                                      const Group<T> *inLanes) const {
+        if constexpr (Order != 0) {
+            if (to.access == detail::Access::ColumnsTouch || to.access == detail::Access::ObjectsTouch) {
+                Group<T> inPlace[Order * Order];
+                permuteRows<Permuting::Backwards, Order, Order>(from, inLanes, inPlace);
+                store<Order, Order>(object, inPlace);
+                return;
+            }
+        }
+        detail::storeThrough<Order, Order>(
+            from, [&](const Group<T> *elements) { storeAny<Order, Order>(object, elements, rowOf); });
     }
 
     template <int Order>
@@ -409,45 +555,27 @@ private:
     detail::GroupOperand<T> to;
 };
 
-// Rows in another order in each object: row i of the result is row rowOf[i], or the other way round.
-enum class Permuting { Forwards, Backwards };
-
-template <Permuting permuting, int Rows, int Columns, class L>
-[[gnu::always_inline]] inline void permuteRows(const L *from, const L *rowOf, L *to) {
-#pragma GCC unroll 8
-    for (int i = 0; i < Rows; ++i) {
-#pragma GCC unroll 8
-        for (int j = 0; j < Columns; ++j) {
-            to[i * Columns + j] = from[j];
-        }
-#pragma GCC unroll 8
-        for (int k = 1; k < Rows; ++k) {
-            const auto isMeant = permuting == Permuting::Forwards ? isEqual(rowOf[i], constant<L>(k))
-                                                                  : isEqual(rowOf[k], constant<L>(i));
-#pragma GCC unroll 8
-            for (int j = 0; j < Columns; ++j) {
-                to[i * Columns + j] = choose(isMeant, from[k * Columns + j], to[i * Columns + j]);
-            }
-        }
-    }
-}
-
-// Calls f with the operands, of a known order (0: of none) as plain ones if all of them are. A kernel that serves both
-// would ask for every group, and keep its elements in memory, where those of both meet.
+// Calls f with the operands, of a known order (0: of none) as plain ones if all of them are of one kind. A kernel that
+// serves all kinds would ask for every group, and keep its elements in memory, where their ways meet.
 template <int Order, class F, class... Operands>
 [[gnu::always_inline]] inline void withPlain(const F &f, const Operands &...operands) {
+    using detail::Objects;
+    bool isDone = false;
+    const auto tryKind = [&]<Objects objects>(std::integral_constant<Objects, objects>) __attribute__((always_inline)) {
+        if (!isDone && (operands.holds(objects) && ...)) {
+            isDone = true;
+            f(operands.template plain<objects>()...);
+        }
+    };
     if constexpr (Order != 0) {
-        using detail::Objects;
-        if ((operands.objectsFollow() && ...)) {
-            f(operands.template plain<Objects::Follow>()...);
-            return;
-        }
-        if ((operands.isPlain() && ...)) {
-            f(operands.template plain<Objects::Anywhere>()...);
-            return;
-        }
+        tryKind(std::integral_constant<Objects, Objects::Follow>());
+        tryKind(std::integral_constant<Objects, Objects::Anywhere>());
+        tryKind(std::integral_constant<Objects, Objects::WithGaps>());
+        tryKind(std::integral_constant<Objects, Objects::ByColumns>());
     }
-    f(operands...);
+    if (!isDone) {
+        f(operands...);
+    }
 }
 
 } // namespace lxpm

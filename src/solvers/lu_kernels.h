@@ -120,7 +120,7 @@ bool decomposeGroup(const Source &source, const Destination &destination, int or
         permuteRows<Permuting::Backwards, 3, 3>(a, rowNumbers, inPlace);
         destination.template store<3, 3>(object, inPlace);
     } else {
-        destination.template store<Order, Order>(object, a, index);
+        destination.template store<Order>(object, a, index, rowNumbers);
     }
     return true;
 }
