@@ -56,25 +56,21 @@ GroupOperand<Element>::GroupOperand(const Addresses<Element> &operand, int heigh
     isDense = access == Access::RowsTouch && (rows == 1 || addresses.step[1] == columns * size);
 }
 
-// A pointer leads to all objects, or to each.
+// Where rows or columns touch, a pointer leads to all objects or to each.
 template <class Element>
-bool GroupOperand<Element>::leadsToObjects() const {
-    return addresses.pointers == nullptr || addresses.pointerStep == Steps{1, 0, 0};
-}
-
-template <class Element>
-bool GroupOperand<Element>::holds(Objects objects) const {
-    switch (objects) {
-    case Objects::Follow:
+bool GroupOperand<Element>::areAll(ObjectKind kind) const {
+    switch (kind) {
+    case ObjectKind::Follow:
         return isDense && addresses.pointers == nullptr &&
                addresses.step[0] == std::ptrdiff_t(sizeof(Element)) * columns * rows;
-    case Objects::Anywhere:
-        return isDense && leadsToObjects();
-    case Objects::WithGaps:
-        return access == Access::RowsTouch && leadsToObjects();
-    default:
-        return access == (rows > 1 && columns > 1 ? Access::ColumnsTouch : Access::RowsTouch) && leadsToObjects();
+    case ObjectKind::Anywhere:
+        return isDense;
+    case ObjectKind::WithGaps:
+        return access == Access::RowsTouch;
+    case ObjectKind::ByColumns:
+        return access == (rows > 1 && columns > 1 ? Access::ColumnsTouch : Access::RowsTouch);
     }
+    return false;
 }
 
 template struct GroupOperand<const float>;

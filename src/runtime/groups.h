@@ -3,9 +3,9 @@
 #pragma once
 
 // Groups: as many objects of an array as a register has lanes, one object in each lane. Their elements are brought from
-// memory into lanes and back, row by row. Rows or columns whose elements touch are turned in registers, four elements
-// of each object at a time; where the same element of successive objects touches, a register is loaded as it stands;
-// anything else is picked one by one.
+// memory into lanes and back, row by row. Rows or columns whose elements touch are turned in registers, four or eight
+// elements of each object at a time; where the same element of successive objects touches, a register is loaded as it
+// stands; anything else is picked one by one.
 //
 // Rows may be permuted, each object's by its own indices. Of a lower triangle, what stands above the diagonal is read
 // only where it is memory between other elements of the object, not through pointers of its own, and never written.
@@ -44,9 +44,16 @@ constexpr int readableLengthOf(Part part, int row, int columns) {
 enum class Access { RowsTouch, ColumnsTouch, ObjectsTouch, OneByOne };
 
 // Kinds of objects: without gaps, the next one following without a gap, too, so that all are a known distance apart;
-// without gaps, anywhere; with gaps between their rows; by columns, with gaps between them. (A vector has no columns to
-// go by: of the last kind are vectors whose elements touch.)
-enum class Objects { Follow, Anywhere, WithGaps, ByColumns };
+// without gaps, anywhere; with gaps between their rows; by columns, with gaps between them. (Vectors, which a call has
+// beside matrices of any kind, are of the last one as well if their elements touch, or if they stand in a column.)
+enum class ObjectKind { Follow, Anywhere, WithGaps, ByColumns };
+
+constexpr bool isWithoutGaps(ObjectKind kind) {
+    return kind == ObjectKind::Follow || kind == ObjectKind::Anywhere;
+}
+
+template <ObjectKind kind, int Columns>
+inline constexpr bool goesByColumns = Columns > 1 && kind == ObjectKind::ByColumns;
 
 // An operand, its element pointers replaced by steps in bytes where they are as regular as those.
 template <class Element>
@@ -59,11 +66,8 @@ struct GroupOperand {
     int columns;
     bool isDense; // the elements of an object stand in one row
 
-    // Whether what is known of such objects holds.
-    bool holds(Objects objects) const;
-
-private:
-    bool leadsToObjects() const;
+    // Whether all objects are of a kind.
+    bool areAll(ObjectKind kind) const;
 };
 
 extern template struct GroupOperand<const float>;
@@ -130,11 +134,11 @@ template <int K, class T>
     }
 }
 
-template <Objects objects, int size, class Element>
+template <ObjectKind kind, int size, class Element>
 [[gnu::always_inline]] inline Pointers<Element> pointersTo(const GroupOperand<Element> &operand,
                                                            std::ptrdiff_t object) {
     const Addresses<Element> &a = operand.addresses;
-    if constexpr (objects == Objects::Follow) {
+    if constexpr (kind == ObjectKind::Follow) {
         Element *const first = shifted(a.base, a.offset) + object * size;
         return inLanes<Element>([=](std::ptrdiff_t lane) { return first + lane * size; });
     }
@@ -227,10 +231,9 @@ template <int Length, class T>
 }
 
 // What leads from row to row, in bytes.
-template <Objects objects, int Columns, class Element>
+template <ObjectKind kind, int Columns, class Element>
 [[gnu::always_inline]] inline std::ptrdiff_t rowStepOf(const GroupOperand<Element> &operand) {
-    const bool isKnown = objects == Objects::Follow || objects == Objects::Anywhere;
-    return isKnown ? Columns * std::ptrdiff_t(sizeof(Element)) : operand.addresses.step[1];
+    return isWithoutGaps(kind) ? Columns * std::ptrdiff_t(sizeof(Element)) : operand.addresses.step[1];
 }
 
 // Row `line` of each object, or column, by its step; or the row that rowOf gives for it.
@@ -346,11 +349,11 @@ template <int Rows, class T>
 //
 //   Rows, Columns   the sizes where they are known beforehand, else 0
 //   rowOf           row i of lane l is row rowOf[l * rows + i] of its object
-//   inLanes         the same numbers in lanes: row inLanes[i]
+//   rowOfInLanes    the same numbers, those of row i in a register
 
 // Objects of one kind and known sizes.
 
-template <class T, detail::Objects objects>
+template <class T, detail::ObjectKind kind>
 class PlainGroupSource {
 public:
     explicit PlainGroupSource(const detail::GroupOperand<const T> &operand) : from(operand) {}
@@ -362,13 +365,13 @@ public:
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
-        if constexpr (objects == detail::Objects::ByColumns && Columns > 1) {
+        if constexpr (detail::goesByColumns<kind, Columns>) {
             Group<T> elements[Rows * Columns];
             load<Rows, Columns>(object, elements);
             permuteRows<Permuting::Forwards, Rows, Columns>(elements, numbersInLanes<Rows, T>(rowOf).data(), to);
         } else {
-            const auto places = detail::pointersTo<objects, Rows * Columns>(from, object);
-            const std::ptrdiff_t step = detail::rowStepOf<objects, Columns>(from);
+            const auto places = detail::pointersTo<kind, Rows * Columns>(from, object);
+            const std::ptrdiff_t step = detail::rowStepOf<kind, Columns>(from);
             forEachOf<Rows>([&](auto row) __attribute__((always_inline)) {
                 detail::loadLength<Columns, T>(detail::rowOfObjects<Rows>(places, step, rowOf, row),
                                                to + row * Columns);
@@ -384,17 +387,16 @@ public:
 private:
     template <Part part, int Rows, int Columns>
     [[gnu::always_inline]] void loadPart(std::ptrdiff_t object, Group<T> *to) const {
-        using detail::Objects;
-        const auto places = detail::pointersTo<objects, Rows * Columns>(from, object);
-        if constexpr (Rows == 1 || objects == Objects::Follow || objects == Objects::Anywhere) {
+        const auto places = detail::pointersTo<kind, Rows * Columns>(from, object);
+        if constexpr (Rows == 1 || detail::isWithoutGaps(kind)) {
             detail::loadLength<Rows * Columns, T>(places, to);
-        } else if constexpr (objects == Objects::ByColumns && Columns > 1) {
+        } else if constexpr (detail::goesByColumns<kind, Columns>) {
             detail::loadColumns<Rows, Columns, T>(
                 [&](int j)
                     __attribute__((always_inline)) { return detail::lineOfObjects(places, from.addresses.step[2], j); },
                 to);
         } else {
-            const std::ptrdiff_t step = detail::rowStepOf<objects, Columns>(from);
+            const std::ptrdiff_t step = detail::rowStepOf<kind, Columns>(from);
             forEachOf<Rows>([&](auto row) __attribute__((always_inline)) {
                 detail::loadLength<detail::readableLengthOf(part, row, Columns), T>(
                     detail::lineOfObjects(places, step, row), to + row * Columns);
@@ -405,30 +407,26 @@ private:
     const detail::GroupOperand<const T> &from;
 };
 
-template <class T, detail::Objects objects>
+template <class T, detail::ObjectKind kind>
 class PlainGroupDestination {
 public:
     explicit PlainGroupDestination(const detail::GroupOperand<T> &operand) : to(operand) {}
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from) const {
-        if constexpr (Rows == 1 || objects == detail::Objects::Follow || objects == detail::Objects::Anywhere) {
-            detail::storeLength<Rows * Columns, T>(from, detail::pointersTo<objects, Rows * Columns>(to, object));
-        } else {
-            storePart<Part::Whole, Rows, Columns>(object, from);
-        }
+        storePart<Part::Whole, Rows, Columns>(object, from);
     }
 
     template <int Order>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf,
-                                      const Group<T> *inLanes) const {
-        if constexpr (objects == detail::Objects::ByColumns) {
+                                      const Group<T> *rowOfInLanes) const {
+        if constexpr (kind == detail::ObjectKind::ByColumns) {
             Group<T> inPlace[Order * Order];
-            permuteRows<Permuting::Backwards, Order, Order>(from, inLanes, inPlace);
+            permuteRows<Permuting::Backwards, Order, Order>(from, rowOfInLanes, inPlace);
             store<Order, Order>(object, inPlace);
         } else {
-            const auto places = detail::pointersTo<objects, Order * Order>(to, object);
-            const std::ptrdiff_t step = detail::rowStepOf<objects, Order>(to);
+            const auto places = detail::pointersTo<kind, Order * Order>(to, object);
+            const std::ptrdiff_t step = detail::rowStepOf<kind, Order>(to);
             forEachOf<Order>([&](auto row) __attribute__((always_inline)) {
                 detail::storeLength<Order, T>(from + row * Order,
                                               detail::rowOfObjects<Order>(places, step, rowOf, row));
@@ -444,15 +442,17 @@ public:
 private:
     template <Part part, int Rows, int Columns>
     [[gnu::always_inline]] void storePart(std::ptrdiff_t object, const Group<T> *from) const {
-        const auto places = detail::pointersTo<objects, Rows * Columns>(to, object);
-        if constexpr (objects == detail::Objects::ByColumns && Columns > 1) {
+        const auto places = detail::pointersTo<kind, Rows * Columns>(to, object);
+        if constexpr (part == Part::Whole && (Rows == 1 || detail::isWithoutGaps(kind))) {
+            detail::storeLength<Rows * Columns, T>(from, places);
+        } else if constexpr (detail::goesByColumns<kind, Columns>) {
             detail::storeColumns<part, Rows, Columns, T>(
                 from, [&](std::ptrdiff_t i, int j) __attribute__((always_inline)) {
                     const auto column = detail::lineOfObjects(places, to.addresses.step[2], j);
                     return detail::inLanes<T>([&](std::ptrdiff_t lane) { return column[lane] + i; });
                 });
         } else {
-            const std::ptrdiff_t step = detail::rowStepOf<objects, Columns>(to);
+            const std::ptrdiff_t step = detail::rowStepOf<kind, Columns>(to);
             forEachOf<Rows>([&](auto row) __attribute__((always_inline)) {
                 detail::storeLength<lengthOf(part, row, Columns), T>(from + row * Columns,
                                                                      detail::lineOfObjects(places, step, row));
@@ -471,10 +471,10 @@ public:
     // Objects of `rows` rows of `columns` elements.
     GroupSource(const Addresses<const T> &operand, int rows, int columns) : from(operand, rows, columns) {}
 
-    bool holds(detail::Objects objects) const { return from.holds(objects); }
-    template <detail::Objects objects>
-    PlainGroupSource<T, objects> plain() const {
-        return PlainGroupSource<T, objects>(from);
+    bool areAll(detail::ObjectKind kind) const { return from.areAll(kind); }
+    template <detail::ObjectKind kind>
+    PlainGroupSource<T, kind> plain() const {
+        return PlainGroupSource<T, kind>(from);
     }
 
     template <int Rows, int Columns>
@@ -510,10 +510,10 @@ class GroupDestination {
 public:
     GroupDestination(const Addresses<T> &operand, int rows, int columns) : to(operand, rows, columns) {}
 
-    bool holds(detail::Objects objects) const { return to.holds(objects); }
-    template <detail::Objects objects>
-    PlainGroupDestination<T, objects> plain() const {
-        return PlainGroupDestination<T, objects>(to);
+    bool areAll(detail::ObjectKind kind) const { return to.areAll(kind); }
+    template <detail::ObjectKind kind>
+    PlainGroupDestination<T, kind> plain() const {
+        return PlainGroupDestination<T, kind>(to);
     }
 
     template <int Rows, int Columns>
@@ -525,11 +525,11 @@ public:
     // Unless rows are written one by one anyway, they are exchanged in lanes.
     template <int Order>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf,
-                                      const Group<T> *inLanes) const {
+                                      const Group<T> *rowOfInLanes) const {
         if constexpr (Order != 0) {
             if (to.access == detail::Access::ColumnsTouch || to.access == detail::Access::ObjectsTouch) {
                 Group<T> inPlace[Order * Order];
-                permuteRows<Permuting::Backwards, Order, Order>(from, inLanes, inPlace);
+                permuteRows<Permuting::Backwards, Order, Order>(from, rowOfInLanes, inPlace);
                 store<Order, Order>(object, inPlace);
                 return;
             }
@@ -559,19 +559,19 @@ private:
 // serves all kinds would ask for every group, and keep its elements in memory, where their ways meet.
 template <int Order, class F, class... Operands>
 [[gnu::always_inline]] inline void withPlain(const F &f, const Operands &...operands) {
-    using detail::Objects;
+    using detail::ObjectKind;
     bool isDone = false;
-    const auto tryKind = [&]<Objects objects>(std::integral_constant<Objects, objects>) __attribute__((always_inline)) {
-        if (!isDone && (operands.holds(objects) && ...)) {
+    const auto tryKind = [&]<ObjectKind kind>(std::integral_constant<ObjectKind, kind>) __attribute__((always_inline)) {
+        if (!isDone && (operands.areAll(kind) && ...)) {
             isDone = true;
-            f(operands.template plain<objects>()...);
+            f(operands.template plain<kind>()...);
         }
     };
     if constexpr (Order != 0) {
-        tryKind(std::integral_constant<Objects, Objects::Follow>());
-        tryKind(std::integral_constant<Objects, Objects::Anywhere>());
-        tryKind(std::integral_constant<Objects, Objects::WithGaps>());
-        tryKind(std::integral_constant<Objects, Objects::ByColumns>());
+        tryKind(std::integral_constant<ObjectKind, ObjectKind::Follow>());
+        tryKind(std::integral_constant<ObjectKind, ObjectKind::Anywhere>());
+        tryKind(std::integral_constant<ObjectKind, ObjectKind::WithGaps>());
+        tryKind(std::integral_constant<ObjectKind, ObjectKind::ByColumns>());
     }
     if (!isDone) {
         f(operands...);

@@ -9,8 +9,8 @@
 
 namespace lxpm {
 
-// An iteration, and a substitution, waits for roots, quotients and sums most of the time. Two that do not depend on one
-// another fill the time.
+// An iteration, an elimination, and a substitution wait for roots, quotients and sums most of the time. Two that do not
+// depend on one another fill the time.
 template <class L>
 struct Twice {
     L low;

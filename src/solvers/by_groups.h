@@ -88,8 +88,9 @@ template <int known, int most, class V, class Store>
 // The objects of one thread in ascending order: whole groups in lanes if they fit, what remains one by one; the first
 // status other than lxpStatusOk ends it. kernel(lanes, object, operands...) computes the objects from that one on in
 // lanes, a Group<T>, and says whether all of them are well. If not, it has written nothing, and they are done again one
-// by one, so that what is written and where it stops are those of single objects. It is given the operands for reading
-// into lanes and writing from them.
+// by one, so that what is written and where it stops are those of single objects. (Not the exceptions that are raised:
+// those of objects that come with a failing one, and of what a kernel computes before it fails, stay.) It is given the
+// operands for reading into lanes and writing from them.
 //
 // Order: known, or 0. atOnce: 1, 2 or 4 groups side by side, in a SideBySide<Group<T>, atOnce>, as long as there are as
 // many; then half of that, and so on.

@@ -230,6 +230,7 @@ private:
 // order of a substitution. The factors are not kept.
 template <class V, int Order>
 class LaneRowsBesideIdentity : public LaneMatrix<V, Order> {
+    static_assert(Order > 1); // the identity comes with the first exchange
     using Matrix = LaneMatrix<V, Order>;
 
 public:

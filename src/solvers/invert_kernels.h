@@ -4,6 +4,8 @@
 
 // How the members of Invert run. For the sources that instantiate them, one for each type.
 
+#include "runtime/lanes.h"
+#include "runtime/numbers.h"
 #include "runtime/parallel.h"
 #include "runtime/rows.h"
 #include "runtime/work.h"
@@ -11,6 +13,7 @@
 #include "solvers/elimination.h"
 #include "solvers/invert.h"
 #include "solvers/lu_substitution.h"
+#include "solvers/matrices.h"
 #include "solvers/register_rows.h"
 #include "solvers/scratch.h"
 
