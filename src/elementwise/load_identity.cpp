@@ -31,31 +31,50 @@ LxpStatus copyReadyMade(bool parallel, int count, int rows, int columns, const A
                            {dst, {Addresses<const T>::strided(identity, {0, row, sizeof(T)})}});
 }
 
-// Whether no row's elements stand among those of another.
+// Whether every element is known to stand by itself.
 template <class T>
-bool areRowsApart(const Addresses<T> &matrix, std::ptrdiff_t rows, std::ptrdiff_t columns) {
+bool areElementsApart(const Addresses<T> &matrix, std::ptrdiff_t rows, std::ptrdiff_t columns) {
     const auto [object, row, column] = matrix.step;
-    return matrix.pointerStep[1] == 0 && (row >= column * columns || column >= row * rows);
+    constexpr std::ptrdiff_t size = sizeof(T);
+    return matrix.movesByBytes() &&
+           ((column >= size && row >= column * columns) || (row >= size && column >= row * rows));
 }
 
-// Writes one value to all rows.
+// Writes one value to all elements, if there are any.
 template <class T>
 void fill(T value, std::ptrdiff_t rows, std::ptrdiff_t columns, const Addresses<T> &dst) {
-    copyObjects<T>({1, rows, columns}, {dst, {Addresses<const T>::strided(&value, {0, 0, 0})}});
+    if (rows > 0 && columns > 0) {
+        copyObjects<T>({1, rows, columns}, {dst, {Addresses<const T>::strided(&value, {0, 0, 0})}});
+    }
 }
 
-// Zeros, then the ones of the diagonal: row by row where rows overlap, since what stands there last is the last row's.
+// The zeros, then the ones of the diagonal.
 template <class T>
-void writeInPlace(std::ptrdiff_t rows, std::ptrdiff_t columns, const Addresses<T> &dst) {
+void fillThenDiagonal(std::ptrdiff_t rows, std::ptrdiff_t columns, const Addresses<T> &dst) {
     Addresses<T> diagonal = dst;
     diagonal.step[1] += diagonal.step[2];
-    diagonal.pointerStep[1] += diagonal.pointerStep[2];
-    const std::ptrdiff_t atOnce = areRowsApart(dst, rows, columns) ? rows : 1;
-    for (std::ptrdiff_t row = 0; row < rows; row += atOnce) {
-        fill(T(0), atOnce, columns, dst.from(0, row));
+    fill(T(0), rows, columns, dst);
+    fill(T(1), std::min(rows, columns), 1, diagonal);
+}
+
+// Elements one after another, so that of those which stand at one address the last one remains.
+template <class T>
+void inOrder(std::ptrdiff_t rows, std::ptrdiff_t columns, const Addresses<T> &dst) {
+    for (std::ptrdiff_t row = 0; row < rows; ++row) {
+        fill(T(0), 1, std::min(row, columns), dst.from(0, row));
         if (row < columns) {
-            fill(T(1), std::min(atOnce, columns), 1, diagonal.from(0, row));
+            fill(T(1), 1, 1, dst.from(0, row, row));
+            fill(T(0), 1, columns - row - 1, dst.from(0, row, row + 1));
         }
+    }
+}
+
+template <class T>
+void writeInPlace(std::ptrdiff_t rows, std::ptrdiff_t columns, const Addresses<T> &dst) {
+    if (areElementsApart(dst, rows, columns)) {
+        fillThenDiagonal(rows, columns, dst);
+    } else {
+        inOrder(rows, columns, dst);
     }
 }
 

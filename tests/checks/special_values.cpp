@@ -39,8 +39,8 @@ Report checkSpecialValues(const Export &item) {
     Report report;
     setThreadCount(1);
     const Model &model = item.model;
-    // A register of lanes and a remainder.
-    const int count = model.hasCount ? 9 : 1;
+    // Two registers of lanes, of either type, and a remainder.
+    const int count = model.hasCount ? 17 : 1;
     constexpr std::size_t values = specialValues.size();
     for (const Shape &shape : model.axes->special) {
         for (const unsigned gapped : {0u, ~0u}) {

@@ -63,6 +63,13 @@ const Pattern columnMajor = {
     !rowsOverlap,
 };
 
+const Pattern paddedColumns = {
+    "column-major, padded columns",
+    [](const Extents &e) { return inElements(e.rows + 3, 1, e.columns * (e.rows + 3) + 1, e.size); },
+    !objectsOverlap,
+    !rowsOverlap,
+};
+
 // The object stride is the smallest one: element (0, 0) of all objects first.
 const Pattern structureOfArrays = {
     "structure of arrays",
@@ -104,8 +111,8 @@ const Pattern slidingObjects = {
 };
 
 constexpr const Pattern *patterns[] = {
-    &dense,      &paddedRows,      &gappedObjects,  &gappedElements, &widelyGapped, &columnMajor, &structureOfArrays,
-    &sideBySide, &overlappingRows, &interlacedRows, &slidingObjects,
+    &dense,         &paddedRows,        &gappedObjects, &gappedElements,  &widelyGapped,   &columnMajor,
+    &paddedColumns, &structureOfArrays, &sideBySide,    &overlappingRows, &interlacedRows, &slidingObjects,
 };
 
 } // namespace
