@@ -13,6 +13,7 @@
 #include "runtime/addresses.h"
 #include "runtime/lanes.h"
 #include "runtime/numbers.h"
+#include "runtime/vector_groups.h"
 
 #include <algorithm>
 #include <array>
@@ -98,38 +99,95 @@ template <class T>
     }
 }
 
+// Two elements of each object: pairs of objects 0 and 1 (2 and 3) stand in the first half of a register.
+[[gnu::always_inline]] inline std::array<Group<float>, 2> loadPairs(const Pointers<const float> &from) {
+    const auto pairs = [&](int object) __attribute__((always_inline)) {
+        const auto two = [&](int first) __attribute__((always_inline)) {
+            return _mm_loadh_pi(loadFirst<2>(from[first]).vector, reinterpret_cast<const __m64 *>(from[first + 1]));
+        };
+        return _mm256_set_m128(two(object + 4), two(object));
+    };
+    const __m256 first = pairs(0);  // 00 01 10 11 | 40 41 50 51
+    const __m256 second = pairs(2); // 20 21 30 31 | 60 61 70 71
+    return {{{_mm256_shuffle_ps(first, second, 0x88)}, {_mm256_shuffle_ps(first, second, 0xdd)}}};
+}
+
+[[gnu::always_inline]] inline std::array<Group<double>, 2> loadPairs(const Pointers<const double> &from) {
+    std::array<Group<double>, 2> pairs = {loadHalves(from[0], from[2]), loadHalves(from[1], from[3])};
+    transposeHalves(pairs[0], pairs[1]);
+    return pairs;
+}
+
+[[gnu::always_inline]] inline void storePairs(const std::array<Group<float>, 2> &elements, const Pointers<float> &to) {
+    const __m256 first = _mm256_unpacklo_ps(elements[0].vector, elements[1].vector);  // 00 01 10 11 | 40 41 50 51
+    const __m256 second = _mm256_unpackhi_ps(elements[0].vector, elements[1].vector); // 20 21 30 31 | 60 61 70 71
+    const auto two = [&](__m128 pairs, int object) __attribute__((always_inline)) {
+        _mm_storel_pi(reinterpret_cast<__m64 *>(to[object]), pairs);
+        _mm_storeh_pi(reinterpret_cast<__m64 *>(to[object + 1]), pairs);
+    };
+    two(_mm256_castps256_ps128(first), 0);
+    two(_mm256_castps256_ps128(second), 2);
+    two(_mm256_extractf128_ps(first, 1), 4);
+    two(_mm256_extractf128_ps(second, 1), 6);
+}
+
+[[gnu::always_inline]] inline void storePairs(std::array<Group<double>, 2> elements, const Pointers<double> &to) {
+    transposeHalves(elements[0], elements[1]);
+    _mm_storeu_pd(to[0], _mm256_castpd256_pd128(elements[0].vector));
+    _mm_storeu_pd(to[1], _mm256_castpd256_pd128(elements[1].vector));
+    _mm_storeu_pd(to[2], _mm256_extractf128_pd(elements[0].vector, 1));
+    _mm_storeu_pd(to[3], _mm256_extractf128_pd(elements[1].vector, 1));
+}
+
 // K elements of each object, register by register: a copy of memory goes by halves of a register, and what reads whole
-// ones would have to wait for it.
+// ones would have to wait for it. One or two are brought together as they are read; more are turned.
 template <int K, class T>
 [[gnu::always_inline]] inline void loadSome(const Pointers<const T> &from, int first, Group<T> *to) {
-    std::array<Group<T>, 4> rows;
+    if constexpr (K == 1) {
+        to[first] = Group<T>::of([&](auto lane) __attribute__((always_inline)) { return from[lane][first]; });
+    } else if constexpr (K == 2) {
+        const auto pairs = loadPairs(inLanes<const T>([&](std::ptrdiff_t lane) { return from[lane] + first; }));
+        to[first].vector = pairs[0].vector;
+        to[first + 1].vector = pairs[1].vector;
+    } else {
+        std::array<Group<T>, 4> rows;
 #pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) {
-        if constexpr (groupSize<T> == 8 && K == 4) {
-            rows[i] = loadHalves(from[i] + first, from[i + 4] + first);
-        } else if constexpr (groupSize<T> == 8) {
-            rows[i] = joined(loadFirst<K>(from[i] + first), loadFirst<K>(from[i + 4] + first));
-        } else {
-            rows[i] = loadFirst<K>(from[i] + first);
+        for (int i = 0; i < 4; ++i) {
+            if constexpr (groupSize<T> == 8 && K == 4) {
+                rows[i] = loadHalves(from[i] + first, from[i + 4] + first);
+            } else if constexpr (groupSize<T> == 8) {
+                rows[i] = joined(loadFirst<K>(from[i] + first), loadFirst<K>(from[i + 4] + first));
+            } else {
+                rows[i] = loadFirst<K>(from[i] + first);
+            }
         }
+        turn<T>(rows);
+        forEachOf<K>([&](auto i) __attribute__((always_inline)) { to[first + i].vector = rows[i].vector; });
     }
-    turn<T>(rows);
-    forEachOf<K>([&](auto i) __attribute__((always_inline)) { to[first + i].vector = rows[i].vector; });
 }
 
 template <int K, class T>
 [[gnu::always_inline]] inline void storeSome(const Group<T> *from, int first, const Pointers<T> &to) {
-    std::array<Group<T>, 4> rows;
-    forEachOf<4>([&](auto i)
-                     __attribute__((always_inline)) { rows[i].vector = from[first + std::min<int>(i, K - 1)].vector; });
-    turn<T>(rows);
+    if constexpr (K == 1) {
+        const auto elements = from[first].vector;
+        forEachOf<groupSize<T>>([&](auto lane)
+                                    __attribute__((always_inline)) { to[lane][first] = elements[int(lane)]; });
+    } else if constexpr (K == 2) {
+        storePairs({from[first], from[first + 1]}, inLanes<T>([&](std::ptrdiff_t lane) { return to[lane] + first; }));
+    } else {
+        std::array<Group<T>, 4> rows;
+        forEachOf<4>([&](auto i) __attribute__((always_inline)) {
+            rows[i].vector = from[first + std::min<int>(i, K - 1)].vector;
+        });
+        turn<T>(rows);
 #pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) {
-        if constexpr (groupSize<T> == 8) {
-            storeFirst<K>(to[i] + first, lowHalf(rows[i]));
-            storeFirst<K>(to[i + 4] + first, highHalf(rows[i]));
-        } else {
-            storeFirst<K>(to[i] + first, rows[i]);
+        for (int i = 0; i < 4; ++i) {
+            if constexpr (groupSize<T> == 8) {
+                storeFirst<K>(to[i] + first, lowHalf(rows[i]));
+                storeFirst<K>(to[i + 4] + first, highHalf(rows[i]));
+            } else {
+                storeFirst<K>(to[i] + first, rows[i]);
+            }
         }
     }
 }
@@ -205,29 +263,38 @@ template <class T>
         columns, [&](auto first) __attribute__((always_inline)) { storeEight(from, first, to); });
 }
 
-// A row of each object, by eights, then by fours; the last of more than four together with some that are done again.
+// Calls fours(first) for what goes by fours of a row from element `first` on, then rest(count) for what remains.
+template <int Length, class Fours, class Rest>
+[[gnu::always_inline]] inline void overFours(int first, const Fours &fours, const Rest &rest) {
+#pragma GCC unroll 16
+    for (int j = first; j + 4 <= Length; j += 4) {
+        fours(j);
+    }
+    if constexpr (Length % 4 != 0) {
+        rest(std::integral_constant<int, Length % 4>());
+    }
+}
+
+// A row of each object. Of more than four, three that remain go as four, together with one that is done again; so does
+// a single one that is read, since what nobody asks for is not turned.
 template <int Length, class T>
 [[gnu::always_inline]] inline void loadLength(const Pointers<const T> &from, Group<T> *to) {
-    if constexpr (Length < 4) {
-        loadSome<Length, T>(from, 0, to);
-    } else {
-#pragma GCC unroll 16
-        for (int j = loadEights<T>(from, Length, to); j < Length; j += 4) {
-            loadSome<4, T>(from, std::min(j, Length - 4), to);
-        }
-    }
+    overFours<Length>(
+        loadEights<T>(from, Length, to), [&](int j) __attribute__((always_inline)) { loadSome<4, T>(from, j, to); },
+        [&](auto count) __attribute__((always_inline)) {
+            constexpr int K = Length > 4 && count != 2 ? 4 : count;
+            loadSome<K, T>(from, Length - K, to);
+        });
 }
 
 template <int Length, class T>
 [[gnu::always_inline]] inline void storeLength(const Group<T> *from, const Pointers<T> &to) {
-    if constexpr (Length < 4) {
-        storeSome<Length, T>(from, 0, to);
-    } else {
-#pragma GCC unroll 16
-        for (int j = storeEights<T>(from, Length, to); j < Length; j += 4) {
-            storeSome<4, T>(from, std::min(j, Length - 4), to);
-        }
-    }
+    overFours<Length>(
+        storeEights<T>(from, Length, to), [&](int j) __attribute__((always_inline)) { storeSome<4, T>(from, j, to); },
+        [&](auto count) __attribute__((always_inline)) {
+            constexpr int K = Length > 4 && count == 3 ? 4 : count;
+            storeSome<K, T>(from, Length - K, to);
+        });
 }
 
 // What leads from row to row, in bytes.
@@ -243,11 +310,15 @@ template <class Element>
     return inLanes<Element>([&](std::ptrdiff_t lane) { return shifted(objects[lane], line * step); });
 }
 
-template <int Rows, class Element>
+// Where objects follow one another, one pointer is enough for all of them.
+template <ObjectKind kind, int Rows, int size, class Element>
 [[gnu::always_inline]] inline Pointers<Element> rowOfObjects(const Pointers<Element> &objects, std::ptrdiff_t step,
                                                              const int *rowOf, int row) {
-    return inLanes<Element>(
-        [&](std::ptrdiff_t lane) { return shifted(objects[lane], rowOf[lane * Rows + row] * step); });
+    return inLanes<Element>([&](std::ptrdiff_t lane) {
+        const std::ptrdiff_t offset = rowOf[lane * Rows + row] * step;
+        return kind == ObjectKind::Follow ? shifted(objects[0], offset + lane * size * std::ptrdiff_t(sizeof(Element)))
+                                          : shifted(objects[lane], offset);
+    });
 }
 
 // Columns of each object, where they touch: column(j) leads to their elements.
@@ -336,11 +407,20 @@ template <Permuting permuting, int Rows, int Columns, class L>
 template <int Rows, class T>
 [[gnu::always_inline]] inline std::array<Group<T>, Rows> numbersInLanes(const int *rowOf) {
     std::array<Group<T>, Rows> numbers;
+    if constexpr (Rows == 3) {
+        const float *const bits = reinterpret_cast<const float *>(rowOf);
+        const auto turnedBits =
+            turned(groupSize<T> == 8 ? loadTriples(bits)
+                                     : Triples<float>{bothHalves(bits), bothHalves(bits + 4), bothHalves(bits + 8)});
+        forEachOf<Rows>([&](auto i)
+                            __attribute__((always_inline)) { numbers[i].vector = numbersOf<T>(turnedBits[i]).vector; });
+    } else {
 #pragma GCC unroll 8
-    for (int i = 0; i < Rows; ++i) {
-        numbers[i] = Group<T>::of([&](auto lane) __attribute__((always_inline)) {
-            return static_cast<T>(rowOf[lane * Rows + i]);
-        });
+        for (int i = 0; i < Rows; ++i) {
+            numbers[i] = Group<T>::of([&](auto lane) __attribute__((always_inline)) {
+                return static_cast<T>(rowOf[lane * Rows + i]);
+            });
+        }
     }
     return numbers;
 }
@@ -365,7 +445,8 @@ public:
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
-        if constexpr (detail::goesByColumns<kind, Columns>) {
+        // The rows of three are sooner exchanged than looked up.
+        if constexpr (detail::goesByColumns<kind, Columns> || Rows == 3) {
             Group<T> elements[Rows * Columns];
             load<Rows, Columns>(object, elements);
             permuteRows<Permuting::Forwards, Rows, Columns>(elements, numbersInLanes<Rows, T>(rowOf).data(), to);
@@ -373,8 +454,8 @@ public:
             const auto places = detail::pointersTo<kind, Rows * Columns>(from, object);
             const std::ptrdiff_t step = detail::rowStepOf<kind, Columns>(from);
             forEachOf<Rows>([&](auto row) __attribute__((always_inline)) {
-                detail::loadLength<Columns, T>(detail::rowOfObjects<Rows>(places, step, rowOf, row),
-                                               to + row * Columns);
+                detail::loadLength<Columns, T>(
+                    detail::rowOfObjects<kind, Rows, Rows * Columns>(places, step, rowOf, row), to + row * Columns);
             });
         }
     }
@@ -388,7 +469,10 @@ private:
     template <Part part, int Rows, int Columns>
     [[gnu::always_inline]] void loadPart(std::ptrdiff_t object, Group<T> *to) const {
         const auto places = detail::pointersTo<kind, Rows * Columns>(from, object);
-        if constexpr (Rows == 1 || detail::isWithoutGaps(kind)) {
+        if constexpr (kind == detail::ObjectKind::Follow && Rows * Columns == 3) {
+            const Triples<T> elements = turned(loadTriples(places[0]));
+            forEachOf<3>([&](auto i) __attribute__((always_inline)) { to[i].vector = elements[i].vector; });
+        } else if constexpr (Rows == 1 || detail::isWithoutGaps(kind)) {
             detail::loadLength<Rows * Columns, T>(places, to);
         } else if constexpr (detail::goesByColumns<kind, Columns>) {
             detail::loadColumns<Rows, Columns, T>(
@@ -428,8 +512,8 @@ public:
             const auto places = detail::pointersTo<kind, Order * Order>(to, object);
             const std::ptrdiff_t step = detail::rowStepOf<kind, Order>(to);
             forEachOf<Order>([&](auto row) __attribute__((always_inline)) {
-                detail::storeLength<Order, T>(from + row * Order,
-                                              detail::rowOfObjects<Order>(places, step, rowOf, row));
+                detail::storeLength<Order, T>(
+                    from + row * Order, detail::rowOfObjects<kind, Order, Order * Order>(places, step, rowOf, row));
             });
         }
     }
@@ -443,7 +527,9 @@ private:
     template <Part part, int Rows, int Columns>
     [[gnu::always_inline]] void storePart(std::ptrdiff_t object, const Group<T> *from) const {
         const auto places = detail::pointersTo<kind, Rows * Columns>(to, object);
-        if constexpr (part == Part::Whole && (Rows == 1 || detail::isWithoutGaps(kind))) {
+        if constexpr (kind == detail::ObjectKind::Follow && Rows * Columns == 3) {
+            writeTriples(places[0], Triples<T>{from[0], from[1], from[2]});
+        } else if constexpr (part == Part::Whole && (Rows == 1 || detail::isWithoutGaps(kind))) {
             detail::storeLength<Rows * Columns, T>(from, places);
         } else if constexpr (detail::goesByColumns<kind, Columns>) {
             detail::storeColumns<part, Rows, Columns, T>(

@@ -280,6 +280,17 @@ inline Lanes<T, fullLanes<T>> loadSome(const T *from, std::ptrdiff_t n) {
     }
 }
 
+// The whole numbers whose bits the lanes hold; for doubles, the first four.
+template <class T>
+inline Group<T> numbersOf(Lanes<float, 8> bits) {
+    const __m256i whole = _mm256_castps_si256(bits.vector);
+    if constexpr (sizeof(T) == sizeof(float)) {
+        return {_mm256_cvtepi32_ps(whole)};
+    } else {
+        return {_mm256_cvtepi32_pd(_mm256_castsi256_si128(whole))};
+    }
+}
+
 // The IEEE square root.
 inline float root(float x) {
     return std::sqrt(x);
