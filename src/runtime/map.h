@@ -41,8 +41,9 @@ void mapScattered(const F &f, Nest<T, sources> nest) {
 
 // The objects of an array whose elements all touch make one long run, but not together with a single object that is
 // used with each of them: there, each small object would end in scraps of registers. So the single object is written
-// side by side until it fills whole registers, and used with that many objects at a time. Where these registers are few
-// they stay loaded; otherwise, and where results are streamed, the tile is made long and read again and again.
+// side by side until it fills whole registers, and used with that many objects at a time: all at once where there is a
+// loop for so many registers, the few of which stay loaded. Otherwise, and where results are streamed, the tile is made
+// long and read again and again.
 template <class T, std::size_t sources>
 class Tiling {
 public:
@@ -76,11 +77,15 @@ public:
         using Loops = lxpm::Loops<T, F, sources>;
         const std::ptrdiff_t n = nest.extent[2];
         const std::ptrdiff_t objects = nest.extent[1];
-        const std::ptrdiff_t fewestObjects = fullLanes<T> / std::gcd(n, std::ptrdiff_t(fullLanes<T>));
-        const std::ptrdiff_t registers = fewestObjects * n / fullLanes<T>;
+        std::ptrdiff_t fewestObjects = fullLanes<T> / std::gcd(n, std::ptrdiff_t(fullLanes<T>));
+        while (fewestObjects * n < fewestRegisters * fullLanes<T>) {
+            fewestObjects *= 2;
+        }
         const bool isStreamed = outgrowsCaches(objects * n * static_cast<std::ptrdiff_t>(sizeof(T)));
-        const bool staysLoaded = !isStreamed && registers <= mostRegisters && othersTouch(nest, tiled);
-        const std::ptrdiff_t objectsPerTile = staysLoaded ? fewestObjects : longTile(n, fewestObjects);
+        const Loop<F> atOnce = isStreamed || !othersTouch(nest, tiled)
+                                   ? nullptr
+                                   : chooseAtOnce<F>(tiled, fewestObjects * n / fullLanes<T>);
+        const std::ptrdiff_t objectsPerTile = atOnce != nullptr ? fewestObjects : longTile(n, fewestObjects);
 
         T tile[largestObject * fullLanes<T> + shortestTile];
         Addresses<const T> &source = nest.operand.src[tiled];
@@ -92,8 +97,8 @@ public:
         source = Addresses<const T>::strided(tile, {0, 0, sizeof(T)});
 
         nest.extent = {1, objects / objectsPerTile, objectsPerTile * n};
-        if (staysLoaded) {
-            chooseLoaded<F>(tiled, registers)(f, nest, tile);
+        if (atOnce != nullptr) {
+            atOnce(f, nest, tile);
         } else {
             Loops::choose(nest)(f, nest);
         }
@@ -106,9 +111,11 @@ public:
 private:
     using L = Lanes<T, fullLanes<T>>;
 
-    static constexpr int mostRegisters = 9;             // that leave room for what is read
-    static constexpr std::ptrdiff_t enough = 32;        // objects, for the tile to pay
-    static constexpr std::ptrdiff_t largestObject = 64; // elements; in larger ones the scraps do not matter
+    // The tiles that go at once: up to nine registers stay loaded, those of orders 8 and 5 are read.
+    using Registers = std::integer_sequence<int, 4, 5, 6, 7, 8, 9, 16, 25>;
+    static constexpr std::ptrdiff_t fewestRegisters = 4; // for a loop over them to pay
+    static constexpr std::ptrdiff_t enough = 32;         // objects, for the tile to pay
+    static constexpr std::ptrdiff_t largestObject = 64;  // elements; in larger ones the scraps do not matter
     static constexpr std::ptrdiff_t shortestTile = shortestStream / sizeof(T); // elements
 
     static bool othersTouch(const Nest<T, sources> &nest, std::size_t tiled) {
@@ -127,9 +134,9 @@ private:
     template <class F>
     using Loop = void (*)(const F &, const Nest<T, sources> &, const T *);
 
-    // The loop for a tile of so many registers in the place of one source.
+    // The loop for a tile of so many registers in the place of one source, if there is one.
     template <class F>
-    static Loop<F> chooseLoaded(std::size_t tiled, std::ptrdiff_t registers) {
+    static Loop<F> chooseAtOnce(std::size_t tiled, std::ptrdiff_t registers) {
         Loop<F> loop = nullptr;
         [&]<std::size_t... s>(std::index_sequence<s...>) {
             ((s == tiled ? void(loop = chooseRegisters<F, s>(registers, Registers())) : void()), ...);
@@ -138,16 +145,15 @@ private:
         return loop;
     }
 
-    using Registers = std::make_integer_sequence<int, mostRegisters>;
-
-    template <class F, std::size_t tiled, int... less>
-    static Loop<F> chooseRegisters(std::ptrdiff_t registers, std::integer_sequence<int, less...>) {
-        static constexpr Loop<F> loops[] = {overLoaded<F, tiled, less + 1>...};
-        return loops[registers - 1];
+    template <class F, std::size_t tiled, int... counts>
+    static Loop<F> chooseRegisters(std::ptrdiff_t registers, std::integer_sequence<int, counts...>) {
+        Loop<F> loop = nullptr;
+        ((counts == registers ? void(loop = overTiles<F, tiled, counts>) : void()), ...);
+        return loop;
     }
 
     template <class F, std::size_t tiled, int registers>
-    static void overLoaded(const F &function, const Nest<T, sources> &shared, const T *tile) {
+    static void overTiles(const F &function, const Nest<T, sources> &shared, const T *tile) {
         const Nest<T, sources> nest = shared;
         const F f = function;
         std::array<L, registers> loaded;
@@ -158,7 +164,7 @@ private:
             T *dst = nest.operand.dst.at(0, 0, 0);
             std::array<const T *, sources> src = {nest.operand.src[s].at(0, 0, 0)...};
             for (std::ptrdiff_t i = 0; i < nest.extent[1]; ++i) {
-#pragma GCC unroll 16
+#pragma GCC unroll 32
                 for (int r = 0; r < registers; ++r) {
                     f((s == tiled ? loaded[r] : L::load(src[s] + r * fullLanes<T>))...).store(dst + r * fullLanes<T>);
                 }
