@@ -67,7 +67,8 @@ private:
         columnsUsed = number;
         second = Registers == 2 ? number - lanes : 0;
         const bool copies = !holdsRegisters(p.b);
-        const bool isPlain = p.inner <= depth && p.a.movesByBytes() && holdsRegisters(p.dst) && !p.addend;
+        const bool isPlain =
+            p.inner <= depth && p.a.movesByBytes() && p.dst.rowsTouch() && (!p.addend || p.addend->rowsTouch());
         for (inner = 0; inner < p.inner; inner += depth) {
             length = std::min(depth, p.inner - inner);
             for (object = 0; object < count; ++object) {
@@ -77,7 +78,7 @@ private:
                     copyPanel<Registers>();
                 }
                 if (isPlain) {
-                    overPlainRows<Registers>();
+                    choosePlainRows<Registers>(std::make_integer_sequence<int, lanes - 1>());
                 } else {
                     overRows<Registers>();
                 }
@@ -154,25 +155,54 @@ private:
     }
 
     // Where sums neither go on nor pass through copies they never leave their registers.
-    template <int Registers>
+
+    template <int Registers, int... fewer>
+    void choosePlainRows(std::integer_sequence<int, fewer...>) const {
+        if (columnsUsed >= lanes) {
+            overPlainRows<Registers, lanes>();
+        } else if constexpr (Registers == 1) {
+            ((columnsUsed == fewer + 1 ? overPlainRows<1, fewer + 1>() : void()), ...);
+        }
+    }
+
+    template <int Registers, int Used>
+    void overPlainRows() const {
+        p.addend ? overPlainRows<Registers, Used, true>() : overPlainRows<Registers, Used, false>();
+    }
+
+    // Used: the columns of a register that are read and written.
+    template <int Registers, int Used, bool hasAddend>
     void overPlainRows() const {
         const T *a = p.a.at(object, 0, 0);
+        const T *addend = hasAddend ? p.addend->at(object, 0, column) : nullptr;
         T *dst = p.dst.at(object, 0, column);
         const std::ptrdiff_t aRow = p.a.step[1];
         const std::ptrdiff_t aElement = p.a.step[2];
+        const std::ptrdiff_t addendRow = hasAddend ? p.addend->step[1] : 0;
         const std::ptrdiff_t dstRow = p.dst.step[1];
-        const std::ptrdiff_t dstSecond = second;
+        const std::ptrdiff_t toSecond = second;
         const Panel b = panel;
         forEachBlock(
             p.rows, [&](std::ptrdiff_t row, auto rows) __attribute__((always_inline)) {
                 Block<rows, Registers> sums = {};
                 sum(sums, shifted(a, row * aRow), aRow, aElement, b);
+                if constexpr (hasAddend) {
+                    const T *from = shifted(addend, row * addendRow);
+#pragma GCC unroll 4
+                    for (auto &ofRow : sums) {
+#pragma GCC unroll 2
+                        for (std::size_t r = 0; r < Registers; ++r) {
+                            ofRow[r] = ofRow[r] + loadFirstOf<Used>(from + std::ptrdiff_t(r) * toSecond);
+                        }
+                        from = shifted(from, addendRow);
+                    }
+                }
                 T *to = shifted(dst, row * dstRow);
 #pragma GCC unroll 4
                 for (const auto &ofRow : sums) {
 #pragma GCC unroll 2
                     for (std::size_t r = 0; r < Registers; ++r) {
-                        ofRow[r].store(to + std::ptrdiff_t(r) * dstSecond);
+                        storeFirstOf<Used>(to + std::ptrdiff_t(r) * toSecond, ofRow[r]);
                     }
                     to = shifted(to, dstRow);
                 }

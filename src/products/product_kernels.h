@@ -100,25 +100,15 @@ template <class T, int Order>
     }
 }
 
-template <class T, int Order>
-void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
-    std::ptrdiff_t done = 0;
-    if (VectorsOf<T, Order>::accepts(p)) {
-        done = VectorsOf<T, Order>::run(p, count);
-    } else if (LaneProduct<T, Order>::accepts(p)) {
-        done = LaneProduct<T, Order>::run(p, count);
-    }
-    if (done == count) {
-        return;
-    }
-    const bool isUsable =
-        p.a.movesByBytes() && p.b.rowsTouch() && p.dst.rowsTouch() && (!p.addend || p.addend->rowsTouch());
-    withFrom(p, done, [&](const MatrixProduct<T> &rest) {
-        isUsable ? chooseUnrolled<T, Order>(rest, count - done) : multiplyStaged<T, Order>(rest, count - done);
-    });
+// Rows that are multiplied with the same matrix are those of one product, if they are enough for it to pay to prepare
+// the matrix.
+template <class T>
+bool isOneProduct(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+    const std::ptrdiff_t enough = p.columns >= groupSize<T> ? 4 : 24; // measured in both types
+    return p.rows == 1 && p.b.isSingle() && count >= enough && p.walksByBytes() && p.a.movesByBytes() &&
+           p.dst.rowsTouch() && (!p.addend || p.addend->rowsTouch());
 }
 
-// Rows that are multiplied with the same matrix are those of one product.
 template <class T>
 void multiplyByPanels(MatrixProduct<T> p, std::ptrdiff_t count) {
     if (p.rows == 1 && p.b.isSingle() && p.walksByBytes()) {
@@ -137,6 +127,26 @@ void multiplyByPanels(MatrixProduct<T> p, std::ptrdiff_t count) {
     PanelProduct<T>::run(p, count);
 }
 
+template <class T, int Order>
+void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+    std::ptrdiff_t done = 0;
+    if (VectorsOf<T, Order>::accepts(p)) {
+        done = VectorsOf<T, Order>::run(p, count);
+    } else if (LaneProduct<T, Order>::accepts(p)) {
+        done = LaneProduct<T, Order>::run(p, count);
+    } else if (isOneProduct(p, count)) {
+        return multiplyByPanels(p, count);
+    }
+    if (done == count) {
+        return;
+    }
+    const bool isUsable =
+        p.a.movesByBytes() && p.b.rowsTouch() && p.dst.rowsTouch() && (!p.addend || p.addend->rowsTouch());
+    withFrom(p, done, [&](const MatrixProduct<T> &rest) {
+        isUsable ? chooseUnrolled<T, Order>(rest, count - done) : multiplyStaged<T, Order>(rest, count - done);
+    });
+}
+
 // The objects of one thread.
 template <class T>
 LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
@@ -147,9 +157,10 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         } else {
             // Long columns that fill registers are faster one matrix after the other than in groups of matrices.
             constexpr std::ptrdiff_t leastInner = 8; // measured in both types
-            const bool goesByRows = RowProduct<T>::accepts(p, count);
+            const bool goesAsOne = isOneProduct(p, count);
+            const bool goesByRows = !goesAsOne && RowProduct<T>::accepts(p, count);
             const bool isBetterByRows = goesByRows && p.columns % groupSize<T> == 0 && p.inner >= leastInner;
-            const bool goesByGroups = !isBetterByRows && GroupProduct<T>::isBetter(p, count);
+            const bool goesByGroups = !goesAsOne && !isBetterByRows && GroupProduct<T>::isBetter(p, count);
             const std::ptrdiff_t done = goesByGroups ? GroupProduct<T>::run(p, count) : 0;
             if (done == count) {
                 return lxpStatusOk;

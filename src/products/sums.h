@@ -15,6 +15,7 @@
 #include "products/readers.h"
 #include "runtime/object_walk.h"
 #include "runtime/parallel.h"
+#include "runtime/twice.h"
 
 #include <array>
 #include <cstddef>
@@ -67,12 +68,17 @@ public:
     using Operands = SumOperands<T, sources>;
 
     static void split(const Operands &operands, int rows, int columns, int objects) {
+        // Two rows of half the partial sums are one of all of them.
+        if (columns == 2 * groupSize<T> && !isWrittenOut(rows, columns, Orders()) && rowsFollow(operands, columns)) {
+            columns *= rows;
+            rows = 1;
+        }
         bool byBytes = true;
         for (const auto &source : operands.src) {
             byBytes &= source.pointerStep[0] == 0;
         }
-        const Split chosen =
-            byBytes ? chooseRows<Walking::ByBytes>(rows, columns) : chooseRows<Walking::ThroughPointers>(rows, columns);
+        const Split chosen = byBytes ? chooseSizes<Walking::ByBytes>(rows, columns)
+                                     : chooseSizes<Walking::ThroughPointers>(rows, columns);
         chosen(operands, rows, columns, objects);
     }
 
@@ -118,20 +124,32 @@ private:
     // Short rows whose lengths the compiler knows: they are written out.
     using Lengths = std::integer_sequence<int, 8, 12, 16, 32, 64>;
 
-    // The order of matrices that are written out as a whole; of larger ones that takes longer.
-    static constexpr int writtenOut = 8;
+    // The orders of matrices that are written out as a whole.
+    using Orders = std::integer_sequence<int, 8, 12>;
+
+    template <int... order>
+    static bool isWrittenOut(int rows, int columns, std::integer_sequence<int, order...>) {
+        return sources == 1 && rows == columns && ((rows == order) || ...);
+    }
 
     template <Walking walking>
-    static Split chooseRows(int rows, int columns) {
+    static Split chooseSizes(int rows, int columns) {
         if constexpr (sources == 1) {
-            if (rows == writtenOut && columns == writtenOut) {
-                return splitWalking<walking, writtenOut, writtenOut>;
+            if (isWrittenOut(rows, columns, Orders())) {
+                return chooseOrder<walking>(rows, Orders());
             }
             if (rows > 1) {
                 return chooseColumns<walking, 0>(columns, Lengths());
             }
         }
         return chooseColumns<walking, 1>(columns, Lengths());
+    }
+
+    template <Walking walking, int... order>
+    static Split chooseOrder(int rows, std::integer_sequence<int, order...>) {
+        Split chosen = nullptr;
+        ((rows == order ? void(chosen = splitWalking<walking, order, order>) : void()), ...);
+        return chosen;
     }
 
     template <Walking walking, int Rows, int... length>
@@ -144,52 +162,93 @@ private:
     // Rows, columns: their numbers where they are known beforehand, else 0.
     template <Walking walking, int Rows, int Columns>
     static void splitWalking(const Operands &operands, int rows, int columns, int objects) {
-        splitObjects<walking, Rows == writtenOut>(operands, Rows != 0 ? Rows : rows, Columns != 0 ? Columns : columns,
-                                                  objects, Index());
+        splitObjects<walking, Rows, Columns>(operands, Rows != 0 ? Rows : rows, Columns != 0 ? Columns : columns,
+                                             objects, Index());
     }
 
-    template <Walking walking, bool isWrittenOut, std::size_t... s>
+    // A vector that is used with every object is fetched once for two of them.
+    template <Walking walking, int Rows, int Columns, std::size_t... s>
     [[gnu::always_inline]] static void splitObjects(const Operands &shared, int rows, int columns, int objects,
                                                     std::index_sequence<s...>) {
         const Operands operands = shared; // a copy that no store below can reach
         std::tuple<WalkOf<walking, s>...> walks(operands.src[s]...);
-        const auto next = [&]() __attribute__((always_inline)) {
-            const Group<T> sum =
-                splitSum<isWrittenOut>(rows, columns, {operands.src[s].step[1]...}, std::get<s>(walks).object()...);
-            (std::get<s>(walks).next(), ...);
-            return sum;
+        const auto next = [&]<class V>(V) __attribute__((always_inline)) {
+            std::tuple<Places<V, (groupsIn<V> > 1 && s + 1 == sources)>...> places;
+            forEachOf<groupsIn<V>>([&](auto object) __attribute__((always_inline)) {
+                ((std::get<s>(places).first[object] = std::get<s>(walks).object()), ...);
+                (std::get<s>(walks).next(), ...);
+            });
+            return splitSum<V, Rows, Columns>(rows, columns, {operands.src[s].step[1]...}, std::get<s>(places)...);
         };
         std::ptrdiff_t object = 0;
-        for (; object + groupSize<T> <= objects; object += groupSize<T>) {
-            std::array<Group<T>, groupSize<T>> partial;
+        const auto overGroups = [&]<class V>(V) __attribute__((always_inline)) {
+            for (; object + groupSize<T> <= objects; object += groupSize<T>) {
+                std::array<Group<T>, groupSize<T>> partial;
 #pragma GCC unroll 1
-            for (int i = 0; i < groupSize<T>; ++i) {
-                partial[i] = next();
+                for (int i = 0; i < groupSize<T>; i += groupsIn<V>) {
+                    const V sums = next(V());
+                    forEachOf<groupsIn<V>>([&](auto k) __attribute__((always_inline)) {
+                        partial[i + k].vector = groupOf<k>(sums).vector;
+                    });
+                }
+                Finish()(sumsOverLanes(partial)).store(operands.dst + object);
             }
-            Finish()(sumsOverLanes(partial)).store(operands.dst + object);
+        };
+        if (sources == 2 && operands.src[sources - 1].isSingle()) {
+            overGroups(SideBySide<Group<T>, sources>());
+        } else {
+            overGroups(Group<T>());
         }
         for (; object < objects; ++object) {
-            operands.dst[object] = Finish()(sumOverLanes(next()));
+            operands.dst[object] = Finish()(sumOverLanes(next(Group<T>())));
         }
     }
 
-    // Of one object, whose rows start at src.
-    template <bool isWrittenOut, class... Pointers>
-    [[gnu::always_inline]] static Group<T>
-    splitSum(int rows, std::ptrdiff_t columns, std::array<std::ptrdiff_t, sources> rowStep, const Pointers *...src) {
-        std::array<Group<T>, 4> partial = {Group<T>::splat(0), Group<T>::splat(0), Group<T>::splat(0),
-                                           Group<T>::splat(0)};
+    // Where the rows of an object start, or those of two: one in each group of a V. Where both are the same object, its
+    // elements are fetched once, and opaque: the compiler would rather fetch them again than keep them.
+    template <class V, bool areSame>
+    struct Places {
+        std::array<const T *, groupsIn<V>> first;
+
+        template <class Load>
+        [[gnu::always_inline]] V loaded(const Load &load) const {
+            V all;
+            Group<T> shared;
+            if constexpr (areSame) {
+                shared = opaque(load(first[0]));
+            }
+            forEachOf<groupsIn<V>>([&](auto object) __attribute__((always_inline)) {
+                if constexpr (areSame) {
+                    groupOf<object>(all).vector = shared.vector;
+                } else {
+                    groupOf<object>(all).vector = load(first[object]).vector;
+                }
+            });
+            return all;
+        }
+
+        [[gnu::always_inline]] void move(std::ptrdiff_t bytes) {
+            for (const T *&place : first) {
+                place = shifted(place, bytes);
+            }
+        }
+    };
+
+    template <class V, int Rows, int Columns, class... Sources>
+    [[gnu::always_inline]] static V splitSum(int rows, std::ptrdiff_t columns,
+                                             std::array<std::ptrdiff_t, sources> rowStep, Sources... src) {
+        std::array<V, 4> partial = {constant<V>(0), constant<V>(0), constant<V>(0), constant<V>(0)};
         const auto addNext = [&]() __attribute__((always_inline)) {
-            addRow(partial, columns, src...);
+            addRow<Columns>(partial, columns, src...);
             // So that short rows too keep all registers busy.
             std::swap(partial[0], partial[2]);
             std::swap(partial[1], partial[3]);
             std::size_t source = 0;
-            ((src = shifted(src, rowStep[source++])), ...);
+            (src.move(rowStep[source++]), ...);
         };
-        if constexpr (isWrittenOut) {
-#pragma GCC unroll 8
-            for (int row = 0; row < writtenOut; ++row) {
+        if constexpr (Rows > 1) {
+#pragma GCC unroll 12
+            for (int row = 0; row < Rows; ++row) {
                 addNext();
             }
         } else {
@@ -201,33 +260,47 @@ private:
         return (partial[0] + partial[2]) + (partial[1] + partial[3]);
     }
 
-    template <class... Pointers>
-    [[gnu::always_inline]] static void addRow(std::array<Group<T>, 4> &partial, std::ptrdiff_t n,
-                                              const Pointers *...src) {
+    template <int Columns, class V, class... Sources>
+    [[gnu::always_inline]] static void addRow(std::array<V, 4> &partial, std::ptrdiff_t n, const Sources &...src) {
         constexpr int lanes = groupSize<T>;
         std::ptrdiff_t i = 0;
+#pragma GCC unroll 2
         for (; i + 4 * lanes <= n; i += 4 * lanes) {
-            partial[0] = partial[0] + product(Group<T>::load(src + i)...);
-            partial[1] = partial[1] + product(Group<T>::load(src + i + lanes)...);
-            partial[2] = partial[2] + product(Group<T>::load(src + i + 2 * lanes)...);
-            partial[3] = partial[3] + product(Group<T>::load(src + i + 3 * lanes)...);
+            forEachOf<4>([&](auto r) __attribute__((always_inline)) {
+                const std::ptrdiff_t at = i + r * lanes;
+                addTo<r>(
+                    partial, [at](const T *row) { return Group<T>::load(row + at); }, src...);
+            });
         }
-        addEnd<0>(partial, n - i, (src + i)...);
+        addEnd<0, Columns % lanes>(partial, i, n, src...);
     }
 
-    // The last n elements of a row, fewer than the partial sums from register r on.
-    template <int r, class... Pointers>
-    [[gnu::always_inline]] static void addEnd(std::array<Group<T>, 4> &partial, std::ptrdiff_t n,
-                                              const Pointers *...src) {
+    // From element i on, fewer than the partial sums from register r on. Scraps: what they leave of a register where it
+    // is known, else 0.
+    template <int r, int scraps, class V, class... Sources>
+    [[gnu::always_inline]] static void addEnd(std::array<V, 4> &partial, std::ptrdiff_t i, std::ptrdiff_t n,
+                                              const Sources &...src) {
         constexpr int lanes = groupSize<T>;
-        if (n >= lanes) {
-            partial[r] = partial[r] + product(Group<T>::load(src)...);
+        if (i + lanes <= n) {
+            addTo<r>(
+                partial, [i](const T *row) { return Group<T>::load(row + i); }, src...);
             if constexpr (r < 3) {
-                addEnd<r + 1>(partial, n - lanes, (src + lanes)...);
+                addEnd<r + 1, scraps>(partial, i + lanes, n, src...);
             }
-        } else if (n > 0) { // the lanes beyond add 0 * 0 to a sum, which leaves it as it is
-            partial[r] = partial[r] + product(loadSome(src, n)...);
+        } else if (i < n) { // the lanes beyond add 0 * 0 to a sum, which leaves it as it is
+            if constexpr (scraps == lanes / 2) {
+                addTo<r>(
+                    partial, [i](const T *row) { return loadFirstOf<lanes / 2>(row + i); }, src...);
+            } else {
+                addTo<r>(
+                    partial, [i, n](const T *row) { return loadSome(row + i, n - i); }, src...);
+            }
         }
+    }
+
+    template <int r, class V, class Load, class... Sources>
+    [[gnu::always_inline]] static void addTo(std::array<V, 4> &partial, const Load &load, const Sources &...src) {
+        partial[r] = partial[r] + product(src.loaded(load)...);
     }
 
     // Ascending.

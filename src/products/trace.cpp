@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace lxpm {
 
@@ -38,7 +39,7 @@ template <int Objects, class T>
 [[gnu::always_inline]] inline void tracesOf(const T *first, std::ptrdiff_t objectStep, std::ptrdiff_t elementStep,
                                             int order, T *dst) {
     T sums[Objects] = {};
-#pragma GCC unroll 6
+#pragma GCC unroll 16
     for (int i = 0; i < order; ++i) {
 #pragma GCC unroll 4
         for (int object = 0; object < Objects; ++object) {
@@ -48,6 +49,9 @@ template <int Objects, class T>
     }
     std::copy_n(sums, Objects, dst);
 }
+
+// Diagonals of up to so many elements are written out.
+constexpr int longestWrittenOut = 16;
 
 // Where the elements of a diagonal stand apart, a lane costs as much to fill as the sum that it would save. Short
 // diagonals are written out; of longer ones several are summed at a time, for none to wait for its last sum.
@@ -99,6 +103,16 @@ std::ptrdiff_t tracesInLanes(const Addresses<const T> &diagonal, T *dst, int ord
 }
 
 template <class T>
+using Traces = void (*)(const Addresses<const T> &, T *, int, std::ptrdiff_t);
+
+template <class T, int... orders>
+Traces<T> chooseOrder(int order, std::integer_sequence<int, orders...>) {
+    Traces<T> chosen = tracesOneByOne<0, T>;
+    ((order == orders ? void(chosen = tracesOneByOne<orders, T>) : void()), ...);
+    return chosen;
+}
+
+template <class T>
 void traces(Addresses<const T> diagonal, T *dst, int order, int objects) {
     if (readingOf(diagonal) == Reading::Objects) {
         const std::ptrdiff_t done = tracesInLanes(diagonal, dst, order, objects);
@@ -106,18 +120,7 @@ void traces(Addresses<const T> diagonal, T *dst, int order, int objects) {
         dst += done;
         objects -= static_cast<int>(done);
     }
-    switch (order) {
-    case 3:
-        return tracesOneByOne<3>(diagonal, dst, order, objects);
-    case 4:
-        return tracesOneByOne<4>(diagonal, dst, order, objects);
-    case 5:
-        return tracesOneByOne<5>(diagonal, dst, order, objects);
-    case 6:
-        return tracesOneByOne<6>(diagonal, dst, order, objects);
-    default:
-        return tracesOneByOne<0>(diagonal, dst, order, objects);
-    }
+    chooseOrder<T>(order, std::make_integer_sequence<int, longestWrittenOut + 1>())(diagonal, dst, order, objects);
 }
 
 // All objects of a call.

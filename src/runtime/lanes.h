@@ -258,6 +258,34 @@ inline Lanes<double, 4> halves(Lanes<double, 4> a, Lanes<double, 4> b) {
     }
 }
 
+// The first K lanes of a whole register from memory, the others 0; and back. No other memory is touched.
+template <int K, class T>
+inline Lanes<T, fullLanes<T>> loadFirstOf(const T *from) {
+    if constexpr (K == fullLanes<T>) {
+        return Lanes<T, K>::load(from);
+    } else if constexpr (fullLanes<T> == 4) {
+        return loadFirst<K>(from);
+    } else if constexpr (K <= 4) {
+        return {_mm256_zextps128_ps256(loadFirst<K>(from).vector)};
+    } else {
+        return joined(loadFirst<4>(from), loadFirst<K - 4>(from + 4));
+    }
+}
+
+template <int K, class T>
+inline void storeFirstOf(T *to, Lanes<T, fullLanes<T>> lanes) {
+    if constexpr (K == fullLanes<T>) {
+        lanes.store(to);
+    } else if constexpr (fullLanes<T> == 4) {
+        storeFirst<K>(to, lanes);
+    } else if constexpr (K <= 4) {
+        storeFirst<K>(to, lowHalf(lanes));
+    } else {
+        storeFirst<4>(to, lowHalf(lanes));
+        storeFirst<K - 4>(to + 4, highHalf(lanes));
+    }
+}
+
 // One element from memory in all lanes.
 inline Lanes<float, 8> broadcast(const float *from) {
     return {_mm256_broadcast_ss(from)};

@@ -98,8 +98,9 @@ Report checkValues(const Export &item) {
 }
 
 Report checkGuards(const Export &item) {
-    // Whole registers of lanes, one or two of either type, the same with a remainder, and no array worth the name.
-    static constexpr int counts[] = {1, 2, 8, 9, 16};
+    // Whole registers of lanes, one or two of either type, the same with a remainder, no array worth the name, and one
+    // whose vectors go together as the rows of one product.
+    static constexpr int counts[] = {1, 2, 8, 9, 16, 27};
     Report report;
     setThreadCount(1);
     int seed = 0;
