@@ -36,8 +36,11 @@ template <class T>
 bool areElementsApart(const Addresses<T> &matrix, std::ptrdiff_t rows, std::ptrdiff_t columns) {
     const auto [object, row, column] = matrix.step;
     constexpr std::ptrdiff_t size = sizeof(T);
-    return matrix.movesByBytes() &&
-           ((column >= size && row >= column * columns) || (row >= size && column >= row * rows));
+    const auto isApart = [](std::ptrdiff_t n, std::ptrdiff_t step, std::ptrdiff_t least) {
+        return n == 1 || step >= least;
+    };
+    return matrix.movesByBytes() && ((isApart(columns, column, size) && isApart(rows, row, column * columns)) ||
+                                     (isApart(rows, row, size) && isApart(columns, column, row * rows)));
 }
 
 // Writes one value to all elements, if there are any.

@@ -12,6 +12,7 @@
 #include "products/product.h"
 #include "products/readers.h"
 #include "runtime/lanes.h"
+#include "runtime/numbers.h"
 
 #include <algorithm>
 #include <array>
@@ -170,6 +171,12 @@ private:
         p.addend ? overPlainRows<Registers, Used, true>() : overPlainRows<Registers, Used, false>();
     }
 
+    // With lanes that are not used: opaque, since Clang would leave these to chance, and with them what they raise.
+    template <int Used>
+    [[gnu::always_inline]] static L spared(L lanesOfRow) {
+        return Used < lanes ? opaque(lanesOfRow) : lanesOfRow;
+    }
+
     // Used: the columns of a register that are read and written.
     template <int Registers, int Used, bool hasAddend>
     void overPlainRows() const {
@@ -192,7 +199,7 @@ private:
                     for (auto &ofRow : sums) {
 #pragma GCC unroll 2
                         for (std::size_t r = 0; r < Registers; ++r) {
-                            ofRow[r] = ofRow[r] + loadFirstOf<Used>(from + std::ptrdiff_t(r) * toSecond);
+                            ofRow[r] = ofRow[r] + spared<Used>(loadFirstOf<Used>(from + std::ptrdiff_t(r) * toSecond));
                         }
                         from = shifted(from, addendRow);
                     }
@@ -202,7 +209,7 @@ private:
                 for (const auto &ofRow : sums) {
 #pragma GCC unroll 2
                     for (std::size_t r = 0; r < Registers; ++r) {
-                        storeFirstOf<Used>(to + std::ptrdiff_t(r) * toSecond, ofRow[r]);
+                        storeFirstOf<Used>(to + std::ptrdiff_t(r) * toSecond, spared<Used>(ofRow[r]));
                     }
                     to = shifted(to, dstRow);
                 }

@@ -100,18 +100,23 @@ template <class T, int Order>
     }
 }
 
-// Rows that are multiplied with the same matrix are those of one product, if they are enough for it to pay to prepare
-// the matrix.
+// Whether the objects are rows that are multiplied with the same matrix: those of one product.
+template <class T>
+bool areRows(const MatrixProduct<T> &p) {
+    return p.rows == 1 && p.b.isSingle() && p.walksByBytes();
+}
+
+// Whether they are enough of them for it to pay to prepare the matrix, and can be read and written as they stand.
 template <class T>
 bool isOneProduct(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     const std::ptrdiff_t enough = p.columns >= groupSize<T> ? 4 : 24; // measured in both types
-    return p.rows == 1 && p.b.isSingle() && count >= enough && p.walksByBytes() && p.a.movesByBytes() &&
-           p.dst.rowsTouch() && (!p.addend || p.addend->rowsTouch());
+    return areRows(p) && count >= enough && p.a.movesByBytes() && p.dst.rowsTouch() &&
+           (!p.addend || p.addend->rowsTouch());
 }
 
 template <class T>
 void multiplyByPanels(MatrixProduct<T> p, std::ptrdiff_t count) {
-    if (p.rows == 1 && p.b.isSingle() && p.walksByBytes()) {
+    if (areRows(p)) {
         const auto asRows = [](auto &operand) {
             operand.step[1] = operand.step[0];
             operand.pointerStep[1] = 0;

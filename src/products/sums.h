@@ -19,6 +19,7 @@
 
 #include <array>
 #include <cstddef>
+#include <limits>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -69,7 +70,8 @@ public:
 
     static void split(const Operands &operands, int rows, int columns, int objects) {
         // Two rows of half the partial sums are one of all of them.
-        if (columns == 2 * groupSize<T> && !isWrittenOut(rows, columns, Orders()) && rowsFollow(operands, columns)) {
+        if (columns == 2 * groupSize<T> && !isWrittenOut(rows, columns, Orders()) &&
+            areOneRow(operands, rows, columns)) {
             columns *= rows;
             rows = 1;
         }
@@ -83,7 +85,7 @@ public:
     }
 
     static void ascending(const Operands &operands, int rows, int columns, int objects) {
-        if (rows > 1 && rowsFollow(operands, columns)) {
+        if (rows > 1 && areOneRow(operands, rows, columns)) {
             columns *= rows;
             rows = 1;
         }
@@ -104,6 +106,16 @@ public:
 private:
     using Index = std::make_index_sequence<sources>;
     using Groups = void (*)(const Operands &, int rows, int columns, std::ptrdiff_t objects);
+
+    // Whether the rows follow one another and are one of a length that can be told.
+    static bool areOneRow(const Operands &operands, int rows, int columns) {
+        bool follow = rows <= std::numeric_limits<int>::max() / columns;
+        for (const auto &source : operands.src) {
+            follow &=
+                source.step[1] == columns * source.step[2] && source.pointerStep[1] == columns * source.pointerStep[2];
+        }
+        return follow;
+    }
 
     template <class Number>
     [[gnu::always_inline]] static Number product(Number a) {
@@ -304,15 +316,6 @@ private:
     }
 
     // Ascending.
-
-    static bool rowsFollow(const Operands &operands, std::ptrdiff_t columns) {
-        bool follow = true;
-        for (const auto &source : operands.src) {
-            follow &=
-                source.step[1] == columns * source.step[2] && source.pointerStep[1] == columns * source.pointerStep[2];
-        }
-        return follow;
-    }
 
     [[gnu::always_inline]] static T sumOfOne(const std::array<Addresses<const T>, sources> &src, int rows, int columns,
                                              std::ptrdiff_t object) {

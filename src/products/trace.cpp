@@ -105,10 +105,10 @@ std::ptrdiff_t tracesInLanes(const Addresses<const T> &diagonal, T *dst, int ord
 template <class T>
 using Traces = void (*)(const Addresses<const T> &, T *, int, std::ptrdiff_t);
 
-template <class T, int... orders>
-Traces<T> chooseOrder(int order, std::integer_sequence<int, orders...>) {
+template <class T, int... known>
+Traces<T> chooseOrder(int order, std::integer_sequence<int, known...>) {
     Traces<T> chosen = tracesOneByOne<0, T>;
-    ((order == orders ? void(chosen = tracesOneByOne<orders, T>) : void()), ...);
+    ((order == known ? void(chosen = tracesOneByOne<known, T>) : void()), ...);
     return chosen;
 }
 

@@ -4,8 +4,9 @@
 
 // Groups: as many objects of an array as a register has lanes, one object in each lane. Their elements are brought from
 // memory into lanes and back, row by row. Rows or columns whose elements touch are turned in registers, four or eight
-// elements of each object at a time; where the same element of successive objects touches, a register is loaded as it
-// stands; anything else is picked one by one.
+// elements of each object at a time, one or two that remain without; vectors of three that follow one another fill
+// three registers; where the same element of successive objects touches, a register is loaded as it stands; anything
+// else is picked one by one.
 //
 // Rows may be permuted, each object's by its own indices. Of a lower triangle, what stands above the diagonal is read
 // only where it is memory between other elements of the object, not through pointers of its own, and never written.

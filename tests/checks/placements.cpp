@@ -26,7 +26,7 @@ std::vector<Placement> combination(const Model &model, int number) {
     const bool areAlike = number < patterns;
     std::vector<Placement> placements(model.operands.size());
     for (std::size_t index = 0; index < placements.size(); ++index) {
-        // Any step that is no divisor of the number of patterns leads to different ones.
+        // Any step that has no divisor in common with the number of patterns leads to different ones.
         const int step = areAlike ? 0 : static_cast<int>(5 * index);
         placements[index].pattern = patternFor(model, model.operands[index], number + step);
     }

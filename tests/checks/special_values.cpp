@@ -39,8 +39,8 @@ Report checkSpecialValues(const Export &item) {
     Report report;
     setThreadCount(1);
     const Model &model = item.model;
-    // Two registers of lanes, of either type, and a remainder.
-    const int count = model.hasCount ? 17 : 1;
+    // Two registers of lanes, of either type, and a remainder; enough vectors for one product.
+    const int count = model.hasCount ? 25 : 1;
     constexpr std::size_t values = specialValues.size();
     for (const Shape &shape : model.axes->special) {
         for (const unsigned gapped : {0u, ~0u}) {
