@@ -5,6 +5,7 @@
 
 #include "elementwise/copy_elements.h"
 #include "elementwise/threshold.h"
+#include "runtime/nest.h"
 #include "runtime/parallel.h"
 
 #include <algorithm>
@@ -29,18 +30,6 @@ LxpStatus copyReadyMade(bool parallel, int count, int rows, int columns, const A
     const std::ptrdiff_t row = columns * std::ptrdiff_t(sizeof(T));
     return copyElements<T>(parallel, count, rows, columns,
                            {dst, {Addresses<const T>::strided(identity, {0, row, sizeof(T)})}});
-}
-
-// Whether every element is known to stand by itself.
-template <class T>
-bool areElementsApart(const Addresses<T> &matrix, std::ptrdiff_t rows, std::ptrdiff_t columns) {
-    const auto [object, row, column] = matrix.step;
-    constexpr std::ptrdiff_t size = sizeof(T);
-    const auto isApart = [](std::ptrdiff_t n, std::ptrdiff_t step, std::ptrdiff_t least) {
-        return n == 1 || step >= least;
-    };
-    return matrix.movesByBytes() && ((isApart(columns, column, size) && isApart(rows, row, column * columns)) ||
-                                     (isApart(rows, row, size) && isApart(columns, column, row * rows)));
 }
 
 // Writes one value to all elements, if there are any.
@@ -74,10 +63,14 @@ void inOrder(std::ptrdiff_t rows, std::ptrdiff_t columns, const Addresses<T> &ds
 
 template <class T>
 void writeInPlace(std::ptrdiff_t rows, std::ptrdiff_t columns, const Addresses<T> &dst) {
-    if (areElementsApart(dst, rows, columns)) {
-        fillThenDiagonal(rows, columns, dst);
+    Nest<T, 0> nest({1, rows, columns}, {dst, {}});
+    nest.straighten();
+    const Addresses<T> straight = nest.operand.dst;
+    nest.arrange();
+    if (straight.movesByBytes() && nest.isDisjoint) {
+        fillThenDiagonal(rows, columns, straight);
     } else {
-        inOrder(rows, columns, dst);
+        inOrder(rows, columns, straight);
     }
 }
 

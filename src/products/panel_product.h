@@ -13,6 +13,7 @@
 #include "products/readers.h"
 #include "runtime/lanes.h"
 #include "runtime/numbers.h"
+#include "runtime/with_order.h"
 
 #include <algorithm>
 #include <array>
@@ -59,6 +60,8 @@ private:
         std::ptrdiff_t second;  // where the second register starts, in elements
     };
 
+    using OverRows = void (PanelProduct::*)(); // of an object
+
     explicit PanelProduct(const MatrixProduct<T> &product) : p(product) {}
 
     // Columns of all results: up to as many as the registers have lanes; with two registers more than one of them has.
@@ -68,8 +71,8 @@ private:
         columnsUsed = number;
         second = Registers == 2 ? number - lanes : 0;
         const bool copies = !holdsRegisters(p.b);
-        const bool isPlain =
-            p.inner <= depth && p.a.movesByBytes() && p.dst.rowsTouch() && (!p.addend || p.addend->rowsTouch());
+        const bool isPlain = p.inner <= depth && p.a.movesByBytes() && p.writesRows();
+        const OverRows overTheirRows = isPlain ? choosePlainRows<Registers>() : &PanelProduct::overRows<Registers>;
         for (inner = 0; inner < p.inner; inner += depth) {
             length = std::min(depth, p.inner - inner);
             for (object = 0; object < count; ++object) {
@@ -78,11 +81,7 @@ private:
                 } else if (object == 0 || !p.b.isSingle()) {
                     copyPanel<Registers>();
                 }
-                if (isPlain) {
-                    choosePlainRows<Registers>(std::make_integer_sequence<int, lanes - 1>());
-                } else {
-                    overRows<Registers>();
-                }
+                (this->*overTheirRows)();
             }
         }
     }
@@ -157,18 +156,18 @@ private:
 
     // Where sums neither go on nor pass through copies they never leave their registers.
 
-    template <int Registers, int... fewer>
-    void choosePlainRows(std::integer_sequence<int, fewer...>) const {
-        if (columnsUsed >= lanes) {
-            overPlainRows<Registers, lanes>();
-        } else if constexpr (Registers == 1) {
-            ((columnsUsed == fewer + 1 ? overPlainRows<1, fewer + 1>() : void()), ...);
+    template <int Registers>
+    OverRows choosePlainRows() const {
+        if constexpr (Registers == 1) {
+            return withOrder<1, lanes - 1>(static_cast<int>(columnsUsed), [&](auto fewer) -> OverRows {
+                constexpr int used = fewer != 0 ? fewer : lanes;
+                return p.addend ? &PanelProduct::overPlainRows<1, used, true>
+                                : &PanelProduct::overPlainRows<1, used, false>;
+            });
+        } else {
+            return p.addend ? &PanelProduct::overPlainRows<Registers, lanes, true>
+                            : &PanelProduct::overPlainRows<Registers, lanes, false>;
         }
-    }
-
-    template <int Registers, int Used>
-    void overPlainRows() const {
-        p.addend ? overPlainRows<Registers, Used, true>() : overPlainRows<Registers, Used, false>();
     }
 
     // With lanes that are not used: opaque, since Clang would leave these to chance, and with them what they raise.
@@ -179,7 +178,7 @@ private:
 
     // Used: the columns of a register that are read and written.
     template <int Registers, int Used, bool hasAddend>
-    void overPlainRows() const {
+    void overPlainRows() {
         const T *a = p.a.at(object, 0, 0);
         const T *addend = hasAddend ? p.addend->at(object, 0, column) : nullptr;
         T *dst = p.dst.at(object, 0, column);

@@ -34,6 +34,9 @@ struct MatrixProduct {
                (!addend || addend->pointerStep[0] == 0);
     }
 
+    // Whether the elements of a row touch where it is written, and where what is added to it is read.
+    bool writesRows() const { return dst.rowsTouch() && (!addend || addend->rowsTouch()); }
+
     // The same product without what stands before an object.
     MatrixProduct from(std::ptrdiff_t object) const {
         MatrixProduct later = {rows, inner, columns, a.from(object), b.from(object), std::nullopt, dst.from(object)};

@@ -110,8 +110,7 @@ bool areRows(const MatrixProduct<T> &p) {
 template <class T>
 bool isOneProduct(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     const std::ptrdiff_t enough = p.columns >= groupSize<T> ? 4 : 24; // measured in both types
-    return areRows(p) && count >= enough && p.a.movesByBytes() && p.dst.rowsTouch() &&
-           (!p.addend || p.addend->rowsTouch());
+    return areRows(p) && count >= enough && p.a.movesByBytes() && p.writesRows();
 }
 
 template <class T>
@@ -145,8 +144,7 @@ void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     if (done == count) {
         return;
     }
-    const bool isUsable =
-        p.a.movesByBytes() && p.b.rowsTouch() && p.dst.rowsTouch() && (!p.addend || p.addend->rowsTouch());
+    const bool isUsable = p.a.movesByBytes() && p.b.rowsTouch() && p.writesRows();
     withFrom(p, done, [&](const MatrixProduct<T> &rest) {
         isUsable ? chooseUnrolled<T, Order>(rest, count - done) : multiplyStaged<T, Order>(rest, count - done);
     });

@@ -25,8 +25,7 @@ class RowProduct {
 public:
     static bool accepts(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         return p.rows == 1 && (count == 1 || !p.b.isSingle()) && p.columns >= lanes && p.a.movesByBytes() &&
-               p.b.movesByBytes() && (p.b.rowsTouch() || p.b.transposed().rowsTouch()) && p.dst.rowsTouch() &&
-               (!p.addend || p.addend->rowsTouch());
+               p.b.movesByBytes() && (p.b.rowsTouch() || p.b.transposed().rowsTouch()) && p.writesRows();
     }
 
     static void run(const MatrixProduct<T> &p, std::ptrdiff_t count) {

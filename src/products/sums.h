@@ -16,6 +16,7 @@
 #include "runtime/object_walk.h"
 #include "runtime/parallel.h"
 #include "runtime/twice.h"
+#include "runtime/with_order.h"
 
 #include <array>
 #include <cstddef>
@@ -69,12 +70,6 @@ public:
     using Operands = SumOperands<T, sources>;
 
     static void split(const Operands &operands, int rows, int columns, int objects) {
-        // Two rows of half the partial sums are one of all of them.
-        if (columns == 2 * groupSize<T> && !isWrittenOut(rows, columns, Orders()) &&
-            areOneRow(operands, rows, columns)) {
-            columns *= rows;
-            rows = 1;
-        }
         bool byBytes = true;
         for (const auto &source : operands.src) {
             byBytes &= source.pointerStep[0] == 0;
@@ -139,41 +134,36 @@ private:
     // The orders of matrices that are written out as a whole.
     using Orders = std::integer_sequence<int, 8, 12>;
 
-    template <int... order>
-    static bool isWrittenOut(int rows, int columns, std::integer_sequence<int, order...>) {
-        return sources == 1 && rows == columns && ((rows == order) || ...);
-    }
-
     template <Walking walking>
     static Split chooseSizes(int rows, int columns) {
         if constexpr (sources == 1) {
-            if (isWrittenOut(rows, columns, Orders())) {
-                return chooseOrder<walking>(rows, Orders());
-            }
             if (rows > 1) {
-                return chooseColumns<walking, 0>(columns, Lengths());
+                return withKnown(Orders(), rows == columns ? rows : 0, [&](auto order) -> Split {
+                    if constexpr (order != 0) {
+                        return splitWalking<walking, order, order>;
+                    } else {
+                        return chooseColumns<walking, 0>(columns);
+                    }
+                });
             }
         }
-        return chooseColumns<walking, 1>(columns, Lengths());
+        return chooseColumns<walking, 1>(columns);
     }
 
-    template <Walking walking, int... order>
-    static Split chooseOrder(int rows, std::integer_sequence<int, order...>) {
-        Split chosen = nullptr;
-        ((rows == order ? void(chosen = splitWalking<walking, order, order>) : void()), ...);
-        return chosen;
-    }
-
-    template <Walking walking, int Rows, int... length>
-    static Split chooseColumns(int columns, std::integer_sequence<int, length...>) {
-        Split chosen = splitWalking<walking, Rows, 0>;
-        ((columns == length ? void(chosen = splitWalking<walking, Rows, length>) : void()), ...);
-        return chosen;
+    template <Walking walking, int Rows>
+    static Split chooseColumns(int columns) {
+        return withKnown(Lengths(), columns, [](auto length) -> Split { return splitWalking<walking, Rows, length>; });
     }
 
     // Rows, columns: their numbers where they are known beforehand, else 0.
     template <Walking walking, int Rows, int Columns>
     static void splitWalking(const Operands &operands, int rows, int columns, int objects) {
+        // Two rows of half the partial sums are one of all of them.
+        if constexpr (Rows == 0 && Columns == 2 * groupSize<T>) {
+            if (areOneRow(operands, rows, columns)) {
+                return splitWalking<walking, 1, 0>(operands, 1, rows * columns, objects);
+            }
+        }
         splitObjects<walking, Rows, Columns>(operands, Rows != 0 ? Rows : rows, Columns != 0 ? Columns : columns,
                                              objects, Index());
     }
@@ -384,14 +374,10 @@ private:
 
     template <Reading first, Reading last, bool dense>
     static Groups chooseLength(int columns) {
-        return chooseLength<first, last, dense>(columns, std::conditional_t<dense, Dense, Short>());
-    }
-
-    template <Reading first, Reading last, bool dense, int... length>
-    static Groups chooseLength(int columns, std::integer_sequence<int, length...>) {
-        Groups chosen = groups<first, last, 0, false>;
-        ((columns == length ? void(chosen = groups<first, last, length, dense>) : void()), ...);
-        return chosen;
+        return withKnown(std::conditional_t<dense, Dense, Short>(), columns, [](auto length) -> Groups {
+            constexpr bool knownAndDense = dense && length != 0;
+            return groups<first, last, length, knownAndDense>;
+        });
     }
 
     // Length: of the rows where it is known beforehand, else 0. Dense: there is one row, and the objects touch.

@@ -6,11 +6,11 @@
 #include "products/readers.h"
 #include "runtime/parallel.h"
 #include "runtime/rows.h"
+#include "runtime/with_order.h"
 #include "runtime/work.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <utility>
 
 namespace lxpm {
 
@@ -105,13 +105,6 @@ std::ptrdiff_t tracesInLanes(const Addresses<const T> &diagonal, T *dst, int ord
 template <class T>
 using Traces = void (*)(const Addresses<const T> &, T *, int, std::ptrdiff_t);
 
-template <class T, int... known>
-Traces<T> chooseOrder(int order, std::integer_sequence<int, known...>) {
-    Traces<T> chosen = tracesOneByOne<0, T>;
-    ((order == known ? void(chosen = tracesOneByOne<known, T>) : void()), ...);
-    return chosen;
-}
-
 template <class T>
 void traces(Addresses<const T> diagonal, T *dst, int order, int objects) {
     if (readingOf(diagonal) == Reading::Objects) {
@@ -120,7 +113,9 @@ void traces(Addresses<const T> diagonal, T *dst, int order, int objects) {
         dst += done;
         objects -= static_cast<int>(done);
     }
-    chooseOrder<T>(order, std::make_integer_sequence<int, longestWrittenOut + 1>())(diagonal, dst, order, objects);
+    const auto chosen =
+        withOrder<1, longestWrittenOut>(order, [](auto known) -> Traces<T> { return tracesOneByOne<known, T>; });
+    chosen(diagonal, dst, order, objects);
 }
 
 // All objects of a call.

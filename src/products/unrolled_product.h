@@ -53,7 +53,7 @@ public:
         if constexpr (lanes == 4) {
             row.part[registers - 1] = loadFirst<last>(rest);
         } else {
-            row.part[registers - 1] = joined(loadFirst<4>(rest), loadFirst<last - 4>(rest + 4));
+            row.part[registers - 1] = loadFirstOf<last>(rest);
         }
         return row;
     }
@@ -66,8 +66,7 @@ public:
         if constexpr (lanes == 4) {
             storeFirst<last>(rest, part[registers - 1]);
         } else {
-            storeFirst<4>(rest, lowHalf(part[registers - 1]));
-            storeFirst<last - 4>(rest + 4, highHalf(part[registers - 1]));
+            storeFirstOf<last>(rest, part[registers - 1]);
         }
     }
 

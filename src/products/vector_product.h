@@ -86,8 +86,7 @@ private:
 class VectorsOfOrder4 {
 public:
     static bool accepts(const MatrixProduct<float> &p) {
-        return p.rows == 1 && p.b.isSingle() && p.a.rowsTouch() && p.dst.rowsTouch() &&
-               (!p.addend || p.addend->rowsTouch());
+        return p.rows == 1 && p.b.isSingle() && p.a.rowsTouch() && p.writesRows();
     }
 
     // All vectors but the last one of an odd number; returns their number.

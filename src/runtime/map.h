@@ -11,6 +11,7 @@
 #include "runtime/one_object.h"
 #include "runtime/parallel.h"
 #include "runtime/spreading.h"
+#include "runtime/with_order.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -42,8 +43,8 @@ void mapScattered(const F &f, Nest<T, sources> nest) {
 // The objects of an array whose elements all touch make one long run, but not together with a single object that is
 // used with each of them: there, each small object would end in scraps of registers. So the single object is written
 // side by side until it fills whole registers, and used with that many objects at a time: all at once where there is a
-// loop for so many registers, the few of which stay loaded. Otherwise, and where results are streamed, the tile is made
-// long and read again and again.
+// loop for so many registers, in which few of them stay loaded. Otherwise, and where results are streamed, the tile is
+// made long and read again and again.
 template <class T, std::size_t sources>
 class Tiling {
 public:
@@ -139,17 +140,21 @@ private:
     static Loop<F> chooseAtOnce(std::size_t tiled, std::ptrdiff_t registers) {
         Loop<F> loop = nullptr;
         [&]<std::size_t... s>(std::index_sequence<s...>) {
-            ((s == tiled ? void(loop = chooseRegisters<F, s>(registers, Registers())) : void()), ...);
+            ((s == tiled ? void(loop = chooseRegisters<F, s>(registers)) : void()), ...);
         }
         (std::make_index_sequence<sources>());
         return loop;
     }
 
-    template <class F, std::size_t tiled, int... counts>
-    static Loop<F> chooseRegisters(std::ptrdiff_t registers, std::integer_sequence<int, counts...>) {
-        Loop<F> loop = nullptr;
-        ((counts == registers ? void(loop = overTiles<F, tiled, counts>) : void()), ...);
-        return loop;
+    template <class F, std::size_t tiled>
+    static Loop<F> chooseRegisters(std::ptrdiff_t registers) {
+        return withKnown(Registers(), static_cast<int>(registers), [](auto known) -> Loop<F> {
+            if constexpr (known != 0) {
+                return overTiles<F, tiled, known>;
+            } else {
+                return nullptr;
+            }
+        });
     }
 
     template <class F, std::size_t tiled, int registers>
