@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Transposition of the matrices of a call. Matrices whose rows touch in both operands go through registers: a block of
-// the source, as many rows as a register has lanes and four columns, leaves it as four rows of the destination. Blocks
-// at the far edges overlap their neighbours instead of ending early, which writes some elements twice; so a destination
-// whose rows overlap is left to the loops that write each element once, in the order of its rows.
+// Transposition of the matrices of a call. Matrices whose rows touch in both operands go through registers: small ones
+// as any that are turned do (TurnedMatrices), others by blocks: as many rows of the source as a register has lanes and
+// four columns leave it as four rows of the destination. Blocks at the far edges overlap their neighbours instead of
+// ending early, which writes some elements twice; so a destination whose rows overlap is left to the loops that write
+// each element once, in the order of its rows.
 
 #include "products/readers.h"
 #include "runtime/object_walk.h"
+#include "runtime/turned_matrices.h"
 #include "runtime/with_order.h"
 
 #include <algorithm>
@@ -50,8 +52,8 @@ private:
     };
 
     static constexpr std::ptrdiff_t size = sizeof(T);
-    static constexpr std::ptrdiff_t side = 4;            // of a small block
-    static constexpr std::ptrdiff_t rows = groupSize<T>; // of a block; its columns are four
+    static constexpr std::ptrdiff_t side = 4;            // columns of a block
+    static constexpr std::ptrdiff_t rows = groupSize<T>; // of a block
     static constexpr std::ptrdiff_t line = 64 / size;    // elements of a cache line
     static constexpr std::ptrdiff_t tile = 256;          // rows and columns
 
@@ -70,16 +72,9 @@ private:
     }
 
     static Kernel chooseOrder(const Matrices &m) {
-        if (m.height < side || m.width < side) {
-            const bool isDense = m.src.step[1] == 3 * size && m.dst.step[1] == 3 * size;
-            return m.height == 3 && m.width == 3 ? (isDense ? byOrder<3, true> : byOrder<3, false>) : oneByOne;
-        }
-        return withOrder<4, 16>(m.height == m.width ? static_cast<int>(m.height) : 0, [&](auto order) -> Kernel {
-            if constexpr (order != 0) {
-                return byOrder<order, false>;
-            } else {
-                return m.height < rows ? bySmallBlocks : isLarge(m) ? byTiles : byBlocks;
-            }
+        return withOrder<3, 16>(m.height == m.width ? static_cast<int>(m.height) : 0, [&](auto order) -> Kernel {
+            const bool hasBlocks = m.height >= rows && m.width >= side;
+            return order != 0 || !hasBlocks ? chooseTurned<order>(m) : isLarge(m) ? byTiles : byBlocks;
         });
     }
 
@@ -119,22 +114,28 @@ private:
         }
     }
 
-    // In registers.
+    // Small matrices. Order: of square ones where it is known beforehand, else 0.
 
-    // A small block of the source, its first element at (row, column); only its columns from `first` on are written.
-    template <int first = 0>
-    [[gnu::always_inline]] static void smallBlock(const Pair &pair, std::ptrdiff_t row, std::ptrdiff_t column) {
-        std::array<Lanes<T, 4>, 4> block;
-#pragma GCC unroll 4
-        for (int i = 0; i < 4; ++i) {
-            block[i] = Lanes<T, 4>::load(pair.from(row + i, column));
-        }
-        transpose(block);
-#pragma GCC unroll 4
-        for (int i = first; i < 4; ++i) {
-            block[i].store(pair.to(column + i, row));
-        }
+    using Turned = TurnedMatrices<T, Same, Moves::Across>;
+
+    template <int Order>
+    static Kernel chooseTurned(const Matrices &m) {
+        constexpr std::ptrdiff_t row = Order * size;
+        const bool byBytes = m.src.pointerStep[0] == 0 && m.dst.pointerStep[0] == 0;
+        const bool areApart = m.objects == 1 || m.dst.step[0] >= Order * row;
+        const bool isDense = m.src.step[1] == row && m.dst.step[1] == row;
+        return Turned::template choose<Order>(
+            isDense && (areApart || Order == 3), byBytes,
+            [](auto dense, auto walking) -> Kernel { return turned<Order, dense, walking>; });
     }
+
+    template <int Order, bool isDense, Walking walking>
+    static void turned(const Matrices &m) {
+        Turned::template run<Order, isDense, walking>(Same(), {m.objects, m.width, m.height}, {m.dst, m.dst.step[1]},
+                                                      {{{m.src, m.src.step[1]}}});
+    }
+
+    // In blocks.
 
     [[gnu::always_inline]] static void block(const Pair &pair, std::ptrdiff_t row, std::ptrdiff_t column) {
         // The rows of the source are the columns of the destination.
@@ -154,73 +155,6 @@ private:
             at(i);
         }
         at(n - step);
-    }
-
-    // Square matrices of a small order.
-    template <int Order, bool isDense>
-    static void byOrder(const Matrices &shared) {
-        const Matrices matrices = shared; // sizes that no store below can reach
-        forEachPair(
-            matrices, [](const Pair &pair) __attribute__((always_inline)) {
-                if constexpr (Order == 3 && isDense) {
-                    denseOrder3(pair.src, pair.dst);
-                } else if constexpr (Order == 3) {
-                    order3(pair);
-                } else if constexpr (Order > 2 * side) {
-                    area(pair, {0, Order}, {0, Order});
-                } else if constexpr (Order % rows == 0) {
-#pragma GCC unroll 2
-                    for (int row = 0; row < Order; row += rows) {
-#pragma GCC unroll 2
-                        for (int column = 0; column < Order; column += 4) {
-                            block(pair, row, column);
-                        }
-                    }
-                } else {
-                    smallBlock(pair, 0, 0);
-                    if constexpr (Order > side) {
-                        smallBlock(pair, Order - side, 0);
-                        smallBlock<2 * side - Order>(pair, 0, Order - side);
-                        smallBlock<2 * side - Order>(pair, Order - side, Order - side);
-                    }
-                }
-            });
-    }
-
-    // 0 1 2 3 | 4 5 6 7 | 8 becomes 0 3 6 1 | 4 7 2 5 | 8: elements 1 and 3 of the two registers change places, and the
-    // registers exchange element 2.
-    [[gnu::always_inline]] static void denseOrder3(const T *src, T *dst) {
-        const auto first = Lanes<T, 4>::load(src);
-        const auto second = Lanes<T, 4>::load(src + 4);
-        const T last = src[8];
-        withElement2Of(second, withElements1And3Exchanged(first)).store(dst);
-        withElement2Of(first, withElements1And3Exchanged(second)).store(dst + 4);
-        dst[8] = last;
-    }
-
-    [[gnu::always_inline]] static void order3(const Pair &pair) {
-        std::array<Lanes<T, 4>, 4> block = {loadFirst<3>(pair.from(0, 0)), loadFirst<3>(pair.from(1, 0)),
-                                            loadFirst<3>(pair.from(2, 0))};
-        transpose(block);
-#pragma GCC unroll 3
-        for (int i = 0; i < 3; ++i) {
-            storeFirst<3>(pair.to(i, 0), block[i]);
-        }
-    }
-
-    // Fewer rows than a block has.
-    static void bySmallBlocks(const Matrices &shared) {
-        const Matrices m = shared;
-        forEachPair(
-            m, [&](const Pair &pair) __attribute__((always_inline)) {
-                forEachStep(
-                    m.height, side, [&](std::ptrdiff_t row) __attribute__((always_inline)) {
-                        forEachStep(
-                            m.width, side, [&](std::ptrdiff_t column) __attribute__((always_inline)) {
-                                smallBlock(pair, row, column);
-                            });
-                    });
-            });
     }
 
     static void byBlocks(const Matrices &shared) {

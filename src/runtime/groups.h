@@ -100,7 +100,11 @@ template <class T>
     }
 }
 
-// Two elements of each object: pairs of objects 0 and 1 (2 and 3) stand in the first half of a register.
+// Two elements of each of four objects, and of eight: pairs of objects 0 and 1 (2 and 3) stand in the first half of a
+// register.
+using lxpm::loadPairs;
+using lxpm::storePairs;
+
 [[gnu::always_inline]] inline std::array<Group<float>, 2> loadPairs(const Pointers<const float> &from) {
     const auto pairs = [&](int object) __attribute__((always_inline)) {
         const auto two = [&](int first) __attribute__((always_inline)) {
@@ -111,12 +115,6 @@ template <class T>
     const __m256 first = pairs(0);  // 00 01 10 11 | 40 41 50 51
     const __m256 second = pairs(2); // 20 21 30 31 | 60 61 70 71
     return {{{_mm256_shuffle_ps(first, second, 0x88)}, {_mm256_shuffle_ps(first, second, 0xdd)}}};
-}
-
-[[gnu::always_inline]] inline std::array<Group<double>, 2> loadPairs(const Pointers<const double> &from) {
-    std::array<Group<double>, 2> pairs = {loadHalves(from[0], from[2]), loadHalves(from[1], from[3])};
-    transposeHalves(pairs[0], pairs[1]);
-    return pairs;
 }
 
 [[gnu::always_inline]] inline void storePairs(const std::array<Group<float>, 2> &elements, const Pointers<float> &to) {
@@ -130,14 +128,6 @@ template <class T>
     two(_mm256_castps256_ps128(second), 2);
     two(_mm256_extractf128_ps(first, 1), 4);
     two(_mm256_extractf128_ps(second, 1), 6);
-}
-
-[[gnu::always_inline]] inline void storePairs(std::array<Group<double>, 2> elements, const Pointers<double> &to) {
-    transposeHalves(elements[0], elements[1]);
-    _mm_storeu_pd(to[0], _mm256_castpd256_pd128(elements[0].vector));
-    _mm_storeu_pd(to[1], _mm256_castpd256_pd128(elements[1].vector));
-    _mm_storeu_pd(to[2], _mm256_extractf128_pd(elements[0].vector, 1));
-    _mm_storeu_pd(to[3], _mm256_extractf128_pd(elements[1].vector, 1));
 }
 
 // K elements of each object, register by register: a copy of memory goes by halves of a register, and what reads whole

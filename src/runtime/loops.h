@@ -8,8 +8,8 @@
 //   in registers   the destination's elements touch, each source's touch or are all the same one. A run goes in whole
 //                  registers and its end in ever smaller pieces.
 //   streamed       as in registers, but past the caches, where these could not keep the results.
-//   transposed     as in registers, but some sources' elements touch down the columns (the middle loop): blocks of 4 by
-//                  4 elements are turned in registers.
+//   transposed     as in registers, but some sources' elements touch down the columns (the middle loop): blocks are
+//                  turned in registers.
 //   one by one     anything else that moves by bytes.
 //   by pointers    each element of a run has a pointer of its own, in one operand or another.
 //
@@ -19,6 +19,7 @@
 #include "runtime/nest.h"
 #include "runtime/runs.h"
 #include "runtime/streaming.h"
+#include "runtime/turned_matrices.h"
 
 #include <algorithm>
 #include <array>
@@ -173,9 +174,6 @@ private:
 
     // Transposed.
 
-    static constexpr int side = 4;                  // of a block
-    using Block = std::array<Lanes<T, side>, side>; // by rows
-
     template <Moves... chosen>
     static Loop chooseTransposed(const Nest &nest) {
         constexpr std::size_t source = sizeof...(chosen);
@@ -195,29 +193,30 @@ private:
     static Loop chooseOrder(const Nest &nest) {
         switch (nest.extent[1] == nest.extent[2] ? nest.extent[2] : 0) {
         case 3:
-            return isDense3(nest) ? dense3<moves...> : transposed<3, moves...>;
+            return chooseTurned<3, moves...>(nest);
         case 4:
-            return transposed<4, moves...>;
+            return chooseTurned<4, moves...>(nest);
         case 5:
-            return transposed<5, moves...>;
+            return chooseTurned<5, moves...>(nest);
         case 6:
-            return transposed<6, moves...>;
+            return chooseTurned<6, moves...>(nest);
         case 8:
-            return transposed<8, moves...>;
+            return chooseTurned<8, moves...>(nest);
         default:
-            return transposed<0, moves...>;
+            return chooseTurned<0, moves...>(nest);
         }
     }
 
     template <int Order, Moves... moves>
-    static void transposed(const F &f, const Nest &nest) {
-        overBlocks<Order, moves...>(f, nest, Index());
+    static Loop chooseTurned(const Nest &nest) {
+        return TurnedMatrices<T, F, moves...>::template choose<Order>(
+            isDense(nest, Order), !nest.operand.movesThroughPointers(0),
+            [](auto dense, auto walking) -> Loop { return transposed<Order, dense, walking, moves...>; });
     }
 
-    // 3x3 matrices whose elements all touch have rows too short for registers; they go as runs of nine elements.
-
-    static bool isDense3(const Nest &nest) {
-        constexpr std::ptrdiff_t row = 3 * sizeof(T);
+    // Whether the rows of square matrices, or their columns, touch.
+    static bool isDense(const Nest &nest, int order) {
+        const std::ptrdiff_t row = order * std::ptrdiff_t(sizeof(T));
         bool isDense = nest.operand.dst.step[1] == row;
         for (const auto &source : nest.operand.src) {
             isDense &= source.step[1] == row || source.step[2] == row;
@@ -225,127 +224,17 @@ private:
         return isDense;
     }
 
-    template <Moves... moves>
-    static void dense3(const F &f, const Nest &nest) {
-        overDense3<moves...>(f, nest, Index());
+    template <int Order, bool isDense, Walking walking, Moves... moves>
+    static void transposed(const F &f, const Nest &nest) {
+        overMatrices<Order, isDense, walking, moves...>(f, nest, Index());
     }
 
-    template <Moves... moves, std::size_t... s>
-    [[gnu::always_inline]] static void overDense3(const F &f, const Nest &shared, std::index_sequence<s...>) {
-        const Nest nest = shared;
+    template <int Order, bool isDense, Walking walking, Moves... moves, std::size_t... s>
+    [[gnu::always_inline]] static void overMatrices(const F &f, const Nest &nest, std::index_sequence<s...>) {
         const auto &[dst, src] = nest.operand;
-        for (std::ptrdiff_t i = 0; i < nest.extent[0]; ++i) {
-            storeDense3(f, dst.at(i, 0, 0), Dense3(src[s].at(i, 0, 0), moves)...);
-        }
-    }
-
-    struct Dense3 {
-        std::array<Lanes<T, 4>, 2> fours;
-        T ninth;
-
-        [[gnu::always_inline]] Dense3(const T *matrix, Moves moves)
-            : fours(moves == Moves::Across
-                        ? transposeDense3(matrix)
-                        : std::array<Lanes<T, 4>, 2>{Lanes<T, 4>::load(matrix), Lanes<T, 4>::load(matrix + 4)}),
-              ninth(matrix[8]) {}
-    };
-
-    template <class... D>
-    [[gnu::always_inline]] static void storeDense3(const F &f, T *dst, const D &...src) {
-        f(src.fours[0]...).store(dst);
-        f(src.fours[1]...).store(dst + 4);
-        dst[8] = f(src.ninth...);
-    }
-
-    // Order: of square matrices where it is known beforehand, else 0.
-    template <int Order, Moves... moves, std::size_t... s>
-    [[gnu::always_inline]] static void overBlocks(const F &function, const Nest &shared, std::index_sequence<s...>) {
-        const Nest nest = shared;
-        const F f = function;
-        const std::ptrdiff_t rows = Order != 0 ? Order : nest.extent[1];
-        const std::ptrdiff_t columns = Order != 0 ? Order : nest.extent[2];
-        const auto &[dst, src] = nest.operand;
-        for (std::ptrdiff_t i = 0; i < nest.extent[0]; ++i) {
-            T *const first = dst.at(i, 0, 0);
-            overOneMatrix<Order>(f, rows, columns, first, dst.step[1],
-                                 Matrix<moves>{src[s].at(i, 0, 0), src[s].step[1], src[s].step[2]}...);
-        }
-    }
-
-    // One matrix of a source, by blocks.
-    template <Moves moves>
-    struct Matrix {
-        const T *first;
-        std::ptrdiff_t rowStep;
-        std::ptrdiff_t columnStep;
-
-        template <int Rows, int Columns>
-        [[gnu::always_inline]] Block block(std::ptrdiff_t row, std::ptrdiff_t column) const {
-            Block lanes = {};
-            if constexpr (moves == Moves::Along) {
-#pragma GCC unroll 4
-                for (int i = 0; i < Rows; ++i) {
-                    lanes[i] = loadFirst<Columns>(shifted(first, (row + i) * rowStep) + column);
-                }
-            } else {
-#pragma GCC unroll 4
-                for (int j = 0; j < Columns; ++j) {
-                    lanes[j] = loadFirst<Rows>(shifted(first, (column + j) * columnStep) + row);
-                }
-                transpose(lanes);
-            }
-            return lanes;
-        }
-    };
-
-    template <int Order, class... M>
-    [[gnu::always_inline]] static void overOneMatrix(const F &f, std::ptrdiff_t rows, std::ptrdiff_t columns, T *dst,
-                                                     std::ptrdiff_t dstStep, const M &...src) {
-        std::ptrdiff_t row = 0;
-        for (; row + side <= rows; row += side) {
-            overStrip<side>(f, row, columns, dst, dstStep, src...);
-        }
-        const auto left = rows - row;
-        if (left == 1) {
-            overStrip<1>(f, row, columns, dst, dstStep, src...);
-        } else if (left == 2) {
-            overStrip<2>(f, row, columns, dst, dstStep, src...);
-        } else if (left == 3) {
-            overStrip<3>(f, row, columns, dst, dstStep, src...);
-        }
-    }
-
-    // Some rows from `row` on.
-    template <int Rows, class... M>
-    [[gnu::always_inline]] static void overStrip(const F &f, std::ptrdiff_t row, std::ptrdiff_t columns, T *dst,
-                                                 std::ptrdiff_t dstStep, const M &...src) {
-        std::ptrdiff_t column = 0;
-        for (; column + side <= columns; column += side) {
-            overBlock<Rows, side>(f, row, column, dst, dstStep, src...);
-        }
-        const auto left = columns - column;
-        if (left == 1) {
-            overBlock<Rows, 1>(f, row, column, dst, dstStep, src...);
-        } else if (left == 2) {
-            overBlock<Rows, 2>(f, row, column, dst, dstStep, src...);
-        } else if (left == 3) {
-            overBlock<Rows, 3>(f, row, column, dst, dstStep, src...);
-        }
-    }
-
-    template <int Rows, int Columns, class... M>
-    [[gnu::always_inline]] static void overBlock(const F &f, std::ptrdiff_t row, std::ptrdiff_t column, T *dst,
-                                                 std::ptrdiff_t dstStep, const M &...src) {
-        storeBlock<Rows, Columns>(f, shifted(dst, row * dstStep) + column, dstStep,
-                                  src.template block<Rows, Columns>(row, column)...);
-    }
-
-    template <int Rows, int Columns, class... B>
-    [[gnu::always_inline]] static void storeBlock(const F &f, T *dst, std::ptrdiff_t dstStep, const B &...block) {
-#pragma GCC unroll 4
-        for (int i = 0; i < Rows; ++i) {
-            storeFirst<Columns>(shifted(dst, i * dstStep), f(block[i]...));
-        }
+        TurnedMatrices<T, F, moves...>::template run<Order, isDense, walking>(
+            f, {nest.extent[0], nest.extent[1], nest.extent[2]}, {dst, dst.step[1]},
+            {{{src[s], src[s].step[moves == Moves::Along ? 1 : 2]}...}});
     }
 
     // One by one.
@@ -386,9 +275,7 @@ private:
         return all;
     }();
 
-    static void byPointers(const F &f, const Nest &nest) {
-        overPointers(f, nest, Index());
-    }
+    static void byPointers(const F &f, const Nest &nest) { overPointers(f, nest, Index()); }
 
     template <std::size_t... s>
     [[gnu::always_inline]] static void overPointers(const F &function, const Nest &nest, std::index_sequence<s...>) {

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <numeric>
 #include <sys/mman.h>
@@ -236,6 +237,63 @@ TEST(Reductions, NothingIsReadBetweenMatricesThatStandFarApart) {
     EXPECT_EQ(lxpmFrobNorm_ma_32f(matrices.first(), FarApart::stride, 16, 4, 3, 2, dst.data(), FarApart::count),
               lxpStatusOk);
     EXPECT_EQ(dst[0], std::sqrt(124.0f));
+}
+
+LxpStatus transposeAll(const float *src, int srcStride, int order, float *dst, int dstStride, int count) {
+    const int row = order * 4;
+    return lxpmTranspose_ma_32f(src, srcStride, row, 4, order, order, dst, dstStride, row, 4, count);
+}
+
+LxpStatus transposeAll(const double *src, int srcStride, int order, double *dst, int dstStride, int count) {
+    const int row = order * 8;
+    return lxpmTranspose_ma_64f(src, srcStride, row, 8, order, order, dst, dstStride, row, 8, count);
+}
+
+LxpStatus transposeAll(const float *const *src, int order, float *const *dst, int count) {
+    return lxpmTranspose_ma_32f_L(src, 0, order * 4, 4, order, order, dst, 0, order * 4, 4, count);
+}
+
+LxpStatus transposeAll(const double *const *src, int order, double *const *dst, int count) {
+    return lxpmTranspose_ma_64f_L(src, 0, order * 8, 8, order, order, dst, 0, order * 8, 8, count);
+}
+
+template <class T>
+void expectLaterTransposesOnTop(int order, int elementsApart) {
+    SCOPED_TRACE(testing::Message() << order << "x" << order << ", " << elementsApart << " elements apart");
+    constexpr int count = 5;
+    const int objectSize = order * order;
+    const int first = elementsApart < 0 ? -elementsApart * (count - 1) : 0;
+    std::vector<T> src(count * objectSize);
+    std::iota(src.begin(), src.end(), T(1));
+    std::vector<T> expected(objectSize + std::abs(elementsApart) * (count - 1));
+    std::vector<const T *> from;
+    std::vector<T> dst(expected.size());
+    std::vector<T> dstOfPointers(expected.size());
+    std::vector<T *> to;
+    for (int object = 0; object < count; ++object) {
+        from.push_back(src.data() + object * objectSize);
+        to.push_back(dstOfPointers.data() + first + object * elementsApart);
+        for (int i = 0; i < objectSize; ++i) {
+            expected[first + object * elementsApart + i] = from.back()[i % order * order + i / order];
+        }
+    }
+    if (elementsApart > 0) { // as a stride must be
+        const int size = sizeof(T);
+        EXPECT_EQ(transposeAll(src.data(), objectSize * size, order, dst.data(), elementsApart * size, count),
+                  lxpStatusOk);
+        EXPECT_EQ(dst, expected);
+    }
+    EXPECT_EQ(transposeAll(from.data(), order, to.data(), count), lxpStatusOk);
+    EXPECT_EQ(dstOfPointers, expected);
+}
+
+TEST(Transposes, ThatOverlapLieOnTopOfEarlierOnes) {
+    for (int order = 2; order <= 17; ++order) {
+        for (const int elementsApart : {0, order, -order, order * order - 1, 1 - order * order}) {
+            expectLaterTransposesOnTop<float>(order, elementsApart);
+            expectLaterTransposesOnTop<double>(order, elementsApart);
+        }
+    }
 }
 
 } // namespace
