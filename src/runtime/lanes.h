@@ -192,43 +192,6 @@ inline void transpose(std::array<Lanes<double, 4>, 4> &r) {
     r[3].vector = _mm256_permute2f128_pd(odd01, odd23, 0x31);            // 03 13 | 23 33
 }
 
-// Two elements from each of four places in memory: a register of the first ones, one of the second ones; and back.
-inline std::array<Lanes<float, 4>, 2> loadPairs(const std::array<const float *, 4> &from) {
-    const auto two = [](const float *first, const float *second) {
-        return _mm_loadh_pi(loadFirst<2>(first).vector, reinterpret_cast<const __m64 *>(second));
-    };
-    const __m128 first = two(from[0], from[1]);  // 00 01 10 11
-    const __m128 second = two(from[2], from[3]); // 20 21 30 31
-    return {{{_mm_shuffle_ps(first, second, 0x88)}, {_mm_shuffle_ps(first, second, 0xdd)}}};
-}
-
-inline std::array<Lanes<double, 4>, 2> loadPairs(const std::array<const double *, 4> &from) {
-    const auto two = [](const double *low, const double *high) {
-        return _mm256_insertf128_pd(_mm256_castpd128_pd256(_mm_loadu_pd(low)), _mm_loadu_pd(high), 1);
-    };
-    const __m256d even = two(from[0], from[2]); // 00 01 | 20 21
-    const __m256d odd = two(from[1], from[3]);  // 10 11 | 30 31
-    return {{{_mm256_unpacklo_pd(even, odd)}, {_mm256_unpackhi_pd(even, odd)}}};
-}
-
-inline void storePairs(const std::array<Lanes<float, 4>, 2> &elements, const std::array<float *, 4> &to) {
-    const __m128 first = _mm_unpacklo_ps(elements[0].vector, elements[1].vector);  // 00 01 10 11
-    const __m128 second = _mm_unpackhi_ps(elements[0].vector, elements[1].vector); // 20 21 30 31
-    _mm_storel_pi(reinterpret_cast<__m64 *>(to[0]), first);
-    _mm_storeh_pi(reinterpret_cast<__m64 *>(to[1]), first);
-    _mm_storel_pi(reinterpret_cast<__m64 *>(to[2]), second);
-    _mm_storeh_pi(reinterpret_cast<__m64 *>(to[3]), second);
-}
-
-inline void storePairs(const std::array<Lanes<double, 4>, 2> &elements, const std::array<double *, 4> &to) {
-    const __m256d even = _mm256_unpacklo_pd(elements[0].vector, elements[1].vector); // 00 01 | 20 21
-    const __m256d odd = _mm256_unpackhi_pd(elements[0].vector, elements[1].vector);  // 10 11 | 30 31
-    _mm_storeu_pd(to[0], _mm256_castpd256_pd128(even));
-    _mm_storeu_pd(to[1], _mm256_castpd256_pd128(odd));
-    _mm_storeu_pd(to[2], _mm256_extractf128_pd(even, 1));
-    _mm_storeu_pd(to[3], _mm256_extractf128_pd(odd, 1));
-}
-
 // The first eight elements, by rows, of the transpose of a 3x3 matrix whose elements all touch; the ninth stays. The
 // comments give the places of the elements in memory.
 inline std::array<Lanes<float, 4>, 2> transposeDense3(const float *matrix) {
@@ -389,6 +352,39 @@ inline void transposeHalves(Lanes<double, 4> &first, Lanes<double, 4> &second) {
     const __m256d low = _mm256_unpacklo_pd(first.vector, second.vector);
     second.vector = _mm256_unpackhi_pd(first.vector, second.vector);
     first.vector = low;
+}
+
+// Two elements from each of four places in memory: a register of the first ones, one of the second ones; and back.
+inline std::array<Lanes<float, 4>, 2> loadPairs(const std::array<const float *, 4> &from) {
+    const auto two = [](const float *first, const float *second) {
+        return _mm_loadh_pi(loadFirst<2>(first).vector, reinterpret_cast<const __m64 *>(second));
+    };
+    const __m128 first = two(from[0], from[1]);  // 00 01 10 11
+    const __m128 second = two(from[2], from[3]); // 20 21 30 31
+    return {{{_mm_shuffle_ps(first, second, 0x88)}, {_mm_shuffle_ps(first, second, 0xdd)}}};
+}
+
+inline std::array<Lanes<double, 4>, 2> loadPairs(const std::array<const double *, 4> &from) {
+    std::array<Lanes<double, 4>, 2> pairs = {loadHalves(from[0], from[2]), loadHalves(from[1], from[3])};
+    transposeHalves(pairs[0], pairs[1]);
+    return pairs;
+}
+
+inline void storePairs(const std::array<Lanes<float, 4>, 2> &elements, const std::array<float *, 4> &to) {
+    const __m128 first = _mm_unpacklo_ps(elements[0].vector, elements[1].vector);  // 00 01 10 11
+    const __m128 second = _mm_unpackhi_ps(elements[0].vector, elements[1].vector); // 20 21 30 31
+    _mm_storel_pi(reinterpret_cast<__m64 *>(to[0]), first);
+    _mm_storeh_pi(reinterpret_cast<__m64 *>(to[1]), first);
+    _mm_storel_pi(reinterpret_cast<__m64 *>(to[2]), second);
+    _mm_storeh_pi(reinterpret_cast<__m64 *>(to[3]), second);
+}
+
+inline void storePairs(std::array<Lanes<double, 4>, 2> elements, const std::array<double *, 4> &to) {
+    transposeHalves(elements[0], elements[1]);
+    _mm_storeu_pd(to[0], _mm256_castpd256_pd128(elements[0].vector));
+    _mm_storeu_pd(to[1], _mm256_castpd256_pd128(elements[1].vector));
+    _mm_storeu_pd(to[2], _mm256_extractf128_pd(elements[0].vector, 1));
+    _mm_storeu_pd(to[3], _mm256_extractf128_pd(elements[1].vector, 1));
 }
 
 // The sum over the lanes of each of several registers, as

@@ -17,11 +17,11 @@
 
 #include "runtime/lanes.h"
 #include "runtime/nest.h"
+#include "runtime/object_walk.h"
 #include "runtime/runs.h"
 #include "runtime/streaming.h"
 #include "runtime/turned_matrices.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstring>
@@ -210,18 +210,19 @@ private:
     template <int Order, Moves... moves>
     static Loop chooseTurned(const Nest &nest) {
         return TurnedMatrices<T, F, moves...>::template choose<Order>(
-            isDense(nest, Order), !nest.operand.movesThroughPointers(0),
+            areDense<moves...>(nest, Order, Index()), !nest.operand.movesThroughPointers(0),
             [](auto dense, auto walking) -> Loop { return transposed<Order, dense, walking, moves...>; });
     }
 
-    // Whether the rows of square matrices, or their columns, touch.
-    static bool isDense(const Nest &nest, int order) {
-        const std::ptrdiff_t row = order * std::ptrdiff_t(sizeof(T));
-        bool isDense = nest.operand.dst.step[1] == row;
-        for (const auto &source : nest.operand.src) {
-            isDense &= source.step[1] == row || source.step[2] == row;
-        }
-        return isDense;
+    // The loop that leads from run to run of touching elements.
+    static constexpr int lineLoop(Moves moves) { return moves == Moves::Along ? 1 : 2; }
+
+    // Whether nothing stands between the rows of square matrices, or between their columns.
+    template <Moves... moves, std::size_t... s>
+    static bool areDense(const Nest &nest, int order, std::index_sequence<s...>) {
+        const std::ptrdiff_t line = order * std::ptrdiff_t(sizeof(T));
+        const auto &[dst, src] = nest.operand;
+        return dst.step[1] == line && ((src[s].step[lineLoop(moves)] == line) && ...);
     }
 
     template <int Order, bool isDense, Walking walking, Moves... moves>
@@ -234,7 +235,7 @@ private:
         const auto &[dst, src] = nest.operand;
         TurnedMatrices<T, F, moves...>::template run<Order, isDense, walking>(
             f, {nest.extent[0], nest.extent[1], nest.extent[2]}, {dst, dst.step[1]},
-            {{{src[s], src[s].step[moves == Moves::Along ? 1 : 2]}...}});
+            {{{src[s], src[s].step[lineLoop(moves)]}...}});
     }
 
     // One by one.

@@ -36,8 +36,8 @@ public:
     using Sources = std::array<Operand<const T>, sources>;
 
     // What kernel(isDense, walking) gives with constants, for matrices of the given order, 0 if it is not known
-    // beforehand. isDense: the rows, or columns, of each operand's matrices follow one another, and matrices of the
-    // destination do not overlap.
+    // beforehand. isDense: nothing stands between the rows, or columns, of any operand's matrices. Where they move by
+    // bytes and are not of order 3, no matrix of a dense destination may stand on another.
     template <int Order, class Kernel>
     static auto choose(bool isDense, bool byBytes, const Kernel &kernel) {
         return byBytes ? chooseDensity<Order, Walking::ByBytes>(isDense, kernel)
@@ -56,8 +56,8 @@ private:
     static constexpr int whole = fullLanes<T>;      // columns of two blocks where a register has so many lanes
     using Block = std::array<Lanes<T, side>, side>; // by rows
 
-    // Dense matrices of order 3 have rows too short for registers, and go as runs of nine elements wherever they stand;
-    // others need no addresses but their first ones', if these come by bytes.
+    // Dense matrices of order 3 have rows too short for registers, and go as runs of nine elements wherever they stand.
+    // Others may go two at a time, which those behind pointers may not: two pointers may lead to the same memory.
     template <int Order, Walking walking, class Kernel>
     static auto chooseDensity(bool isDense, const Kernel &kernel) {
         constexpr std::integral_constant<Walking, walking> itsWalking;
@@ -163,10 +163,11 @@ private:
             } else if constexpr (!isAlong && Rows == 2) {
                 return loadPairs(fourOf([&](int j) { return at(row, column + j); }));
             } else {
+                constexpr int lines = isAlong ? Rows : Columns;
+                constexpr int length = isAlong ? Columns : Rows;
                 Block lanes = {};
-                forEachOf<isAlong ? Rows : Columns>([&](auto i) __attribute__((always_inline)) {
-                    lanes[i] =
-                        loadFirst < isAlong ? Columns : Rows > (isAlong ? at(row + i, column) : at(row, column + i));
+                forEachOf<lines>([&](auto i) __attribute__((always_inline)) {
+                    lanes[i] = loadFirst<length>(isAlong ? at(row + i, column) : at(row, column + i));
                 });
                 if constexpr (!isAlong) {
                     transpose(lanes);
