@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Transposition of the matrices of a call. Matrices whose rows touch in both operands go through registers: small ones
-// as any that are turned do (TurnedMatrices), others by blocks: as many rows of the source as a register has lanes and
-// four columns leave it as four rows of the destination. Blocks at the far edges overlap their neighbours instead of
-// ending early, which writes some elements twice; so a destination whose rows overlap is left to the loops that write
-// each element once, in the order of its rows.
+// Transposition of the matrices of a call. Matrices whose rows touch in both operands go through registers: squares
+// up to order 16 and what is too narrow for the blocks as any that are turned do (TurnedMatrices), others by blocks: as
+// many rows of the source as a register has lanes and four columns leave it as four rows of the destination. Blocks at
+// the far edges overlap their neighbours instead of ending early, which writes some elements twice; so a destination
+// whose rows overlap is left to the loops that write each element once, in the order of its rows.
 
 #include "products/readers.h"
 #include "runtime/object_walk.h"
@@ -58,7 +58,7 @@ private:
     static constexpr std::ptrdiff_t tile = 256;          // rows and columns
 
     static Kernel choose(const Matrices &m) {
-        if (m.objects > 1 && objectsTouch(m.src) && objectsTouch(m.dst)) {
+        if (m.objects > 1 && objectsTouch(m.src) && objectsTouch(m.dst) && runsAreApart(m)) {
             return objectsByRuns;
         }
         const bool byBytes = m.src.pointerStep[2] == 0 && m.dst.pointerStep[2] == 0;
@@ -94,6 +94,14 @@ private:
         return operand.step[0] == size && operand.pointerStep[0] == 0;
     }
 
+    // Whether the runs of one element of all objects do not overlap in the destination.
+    static bool runsAreApart(const Matrices &m) {
+        const std::ptrdiff_t run = m.objects * size;
+        const std::ptrdiff_t row = m.dst.step[1];
+        const std::ptrdiff_t element = m.dst.step[2];
+        return row < element ? row >= run && element >= m.width * row : element >= run && row >= m.height * element;
+    }
+
     template <class Function>
     [[gnu::always_inline]] static void forEachPair(const Matrices &m, const Function &function) {
         const bool byBytes = m.src.pointerStep[0] == 0 && m.dst.pointerStep[0] == 0;
@@ -114,7 +122,7 @@ private:
         }
     }
 
-    // Small matrices. Order: of square ones where it is known beforehand, else 0.
+    // Turned. Order: of square matrices where it is known beforehand, else 0.
 
     using Turned = TurnedMatrices<T, Same, Moves::Across>;
 

@@ -9,8 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 #include <numeric>
 #include <sys/mman.h>
@@ -239,61 +239,108 @@ TEST(Reductions, NothingIsReadBetweenMatricesThatStandFarApart) {
     EXPECT_EQ(dst[0], std::sqrt(124.0f));
 }
 
-LxpStatus transposeAll(const float *src, int srcStride, int order, float *dst, int dstStride, int count) {
-    const int row = order * 4;
-    return lxpmTranspose_ma_32f(src, srcStride, row, 4, order, order, dst, dstStride, row, 4, count);
-}
+// Calls on dense square matrices of both types. `ones` stand in for a second source.
+struct Transposes {
+    static LxpStatus run(const float *src, const float *, int order, float *dst, int dstStride, int count) {
+        const int row = order * 4;
+        return lxpmTranspose_ma_32f(src, order * row, row, 4, order, order, dst, dstStride, row, 4, count);
+    }
+    static LxpStatus run(const double *src, const double *, int order, double *dst, int dstStride, int count) {
+        const int row = order * 8;
+        return lxpmTranspose_ma_64f(src, order * row, row, 8, order, order, dst, dstStride, row, 8, count);
+    }
+    static LxpStatus run(const float *const *src, const float *const *, int order, float *const *dst, int count) {
+        return lxpmTranspose_ma_32f_L(src, 0, order * 4, 4, order, order, dst, 0, order * 4, 4, count);
+    }
+    static LxpStatus run(const double *const *src, const double *const *, int order, double *const *dst, int count) {
+        return lxpmTranspose_ma_64f_L(src, 0, order * 8, 8, order, order, dst, 0, order * 8, 8, count);
+    }
+    static constexpr int added = 0;
+};
 
-LxpStatus transposeAll(const double *src, int srcStride, int order, double *dst, int dstStride, int count) {
-    const int row = order * 8;
-    return lxpmTranspose_ma_64f(src, srcStride, row, 8, order, order, dst, dstStride, row, 8, count);
-}
+struct TransposesPlusOnes {
+    static LxpStatus run(const float *src, const float *ones, int order, float *dst, int dstStride, int count) {
+        const int row = order * 4;
+        return lxpmAdd_tama_32f(src, order * row, row, 4, ones, order * row, row, 4, dst, dstStride, row, 4, order,
+                                order, count);
+    }
+    static LxpStatus run(const double *src, const double *ones, int order, double *dst, int dstStride, int count) {
+        const int row = order * 8;
+        return lxpmAdd_tama_64f(src, order * row, row, 8, ones, order * row, row, 8, dst, dstStride, row, 8, order,
+                                order, count);
+    }
+    static LxpStatus run(const float *const *src, const float *const *ones, int order, float *const *dst, int count) {
+        const int row = order * 4;
+        return lxpmAdd_tama_32f_L(src, 0, row, 4, ones, 0, row, 4, dst, 0, row, 4, order, order, count);
+    }
+    static LxpStatus run(const double *const *src, const double *const *ones, int order, double *const *dst,
+                         int count) {
+        const int row = order * 8;
+        return lxpmAdd_tama_64f_L(src, 0, row, 8, ones, 0, row, 8, dst, 0, row, 8, order, order, count);
+    }
+    static constexpr int added = 1;
+};
 
-LxpStatus transposeAll(const float *const *src, int order, float *const *dst, int count) {
-    return lxpmTranspose_ma_32f_L(src, 0, order * 4, 4, order, order, dst, 0, order * 4, 4, count);
-}
-
-LxpStatus transposeAll(const double *const *src, int order, double *const *dst, int count) {
-    return lxpmTranspose_ma_64f_L(src, 0, order * 8, 8, order, order, dst, 0, order * 8, 8, count);
-}
-
-template <class T>
-void expectLaterTransposesOnTop(int order, int elementsApart) {
+// Some matrices whose results stand at multiples of a distance that is shorter than a matrix.
+template <class Call, class T>
+void expectLaterResultsOnTop(int order, int elementsApart, const std::vector<int> &places) {
     SCOPED_TRACE(testing::Message() << order << "x" << order << ", " << elementsApart << " elements apart");
-    constexpr int count = 5;
-    const int objectSize = order * order;
-    const int first = elementsApart < 0 ? -elementsApart * (count - 1) : 0;
-    std::vector<T> src(count * objectSize);
+    const int count = static_cast<int>(places.size());
+    const int matrix = order * order;
+    std::vector<T> src(count * matrix);
     std::iota(src.begin(), src.end(), T(1));
-    std::vector<T> expected(objectSize + std::abs(elementsApart) * (count - 1));
-    std::vector<const T *> from;
+    const std::vector<T> ones(src.size(), T(1));
+    std::vector<T> expected(matrix + elementsApart * (count - 1));
     std::vector<T> dst(expected.size());
-    std::vector<T> dstOfPointers(expected.size());
+    std::vector<const T *> from;
+    std::vector<const T *> fromOnes;
     std::vector<T *> to;
     for (int object = 0; object < count; ++object) {
-        from.push_back(src.data() + object * objectSize);
-        to.push_back(dstOfPointers.data() + first + object * elementsApart);
-        for (int i = 0; i < objectSize; ++i) {
-            expected[first + object * elementsApart + i] = from.back()[i % order * order + i / order];
+        const int place = elementsApart * places[object];
+        from.push_back(src.data() + object * matrix);
+        fromOnes.push_back(ones.data() + object * matrix);
+        to.push_back(dst.data() + place);
+        for (int i = 0; i < matrix; ++i) {
+            expected[place + i] = from.back()[i % order * order + i / order] + Call::added;
         }
     }
-    if (elementsApart > 0) { // as a stride must be
-        const int size = sizeof(T);
-        EXPECT_EQ(transposeAll(src.data(), objectSize * size, order, dst.data(), elementsApart * size, count),
+    EXPECT_EQ(Call::run(from.data(), fromOnes.data(), order, to.data(), count), lxpStatusOk);
+    EXPECT_EQ(dst, expected);
+    std::vector<int> byStrides(count);
+    std::iota(byStrides.begin(), byStrides.end(), 0);
+    if (places == byStrides) {
+        std::fill(dst.begin(), dst.end(), T(0));
+        EXPECT_EQ(Call::run(src.data(), ones.data(), order, dst.data(), elementsApart * int(sizeof(T)), count),
                   lxpStatusOk);
         EXPECT_EQ(dst, expected);
     }
-    EXPECT_EQ(transposeAll(from.data(), order, to.data(), count), lxpStatusOk);
-    EXPECT_EQ(dstOfPointers, expected);
 }
 
-TEST(Transposes, ThatOverlapLieOnTopOfEarlierOnes) {
+template <class Call>
+void expectLaterResultsOnTop() {
+    const std::vector<std::vector<int>> placesOfObjects = {
+        {0, 1, 2, 3, 4}, {4, 3, 2, 1, 0}, {2, 0, 3, 1, 4}, {0, 0, 0, 0, 0}};
     for (int order = 2; order <= 17; ++order) {
-        for (const int elementsApart : {0, order, -order, order * order - 1, 1 - order * order}) {
-            expectLaterTransposesOnTop<float>(order, elementsApart);
-            expectLaterTransposesOnTop<double>(order, elementsApart);
+        for (const int elementsApart : {1, order, order * order - 1}) {
+            for (const std::vector<int> &places : placesOfObjects) {
+                expectLaterResultsOnTop<Call, float>(order, elementsApart, places);
+                expectLaterResultsOnTop<Call, double>(order, elementsApart, places);
+            }
         }
     }
+}
+
+TEST(TransposedResults, ThatOverlapLieOnTopOfEarlierOnes) {
+    expectLaterResultsOnTop<Transposes>();
+    expectLaterResultsOnTop<TransposesPlusOnes>();
+}
+
+TEST(TransposedResults, OfObjectsInterleavedByElementsLieOnTopOfEarlierOnes) {
+    constexpr int count = 3; // matrices of two rows, one element apart: element (0, 1) of one is (0, 0) of the next
+    const auto src = ascending(count + 3);
+    std::vector<float> dst(count + 3);
+    EXPECT_EQ(lxpmTranspose_ma_32f(src.data(), 4, 8, 4, 2, 2, dst.data(), 4, 8, 4, count), lxpStatusOk);
+    EXPECT_EQ(dst, (std::vector<float>{1, 2, 3, 5, 4, 6}));
 }
 
 } // namespace

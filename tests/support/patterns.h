@@ -28,7 +28,7 @@ struct Extents {
 struct Pattern {
     const char *name;
     Strides (*stridesOf)(const Extents &extents);
-    bool objectsOverlap; // good for sources only: the order in which objects are written is nobody's business
+    bool objectsOverlap; // good for sources only: several threads write the objects of a destination in any order
     bool rowsOverlap;    // in a destination the last row wins
 
     bool isOneToOne() const { return !objectsOverlap && !rowsOverlap; }
