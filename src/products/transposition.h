@@ -55,7 +55,8 @@ private:
     static constexpr std::ptrdiff_t side = 4;            // columns of a block
     static constexpr std::ptrdiff_t rows = groupSize<T>; // of a block
     static constexpr std::ptrdiff_t line = 64 / size;    // elements of a cache line
-    static constexpr std::ptrdiff_t tile = 256;          // rows and columns
+    static constexpr std::ptrdiff_t tileRows = 1024;
+    static constexpr std::ptrdiff_t tileColumns = 256;
 
     static Kernel choose(const Matrices &m) {
         if (m.objects > 1 && objectsTouch(m.src) && objectsTouch(m.dst) && runsAreApart(m)) {
@@ -80,7 +81,7 @@ private:
 
     // Whether a pair of matrices is more than a tile and too large for one thread's share of the caches.
     static bool isLarge(const Matrices &m) {
-        if (m.height <= tile && m.width <= tile) {
+        if (m.height <= tileRows && m.width <= tileColumns) {
             return false;
         }
         constexpr int shares = 32;
@@ -174,12 +175,13 @@ private:
     }
 
     // Every row of a large matrix stands in a page of its own, and the processor remembers the places of so many pages
-    // only: what is read and written at a time is limited in both directions.
+    // only: what is read and written at a time is limited in both directions. Tiles are higher than wide, since the
+    // rows of the destination are then written on for longer, which memory likes better than many short pieces.
     static void byTiles(const Matrices &shared) {
         const Matrices m = shared;
         forEachPair(m, [&](const Pair &pair) {
-            forEachPiece(m.height, tile, rows, [&](Piece ofRows) {
-                forEachPiece(m.width, tile, side, [&](Piece ofColumns) { area(pair, ofRows, ofColumns); });
+            forEachPiece(m.height, tileRows, rows, [&](Piece ofRows) {
+                forEachPiece(m.width, tileColumns, side, [&](Piece ofColumns) { area(pair, ofRows, ofColumns); });
             });
         });
     }

@@ -162,8 +162,15 @@ void expectLargeTransposed(int height, int width, int padding, Function transpos
 TEST(Transposition, OfLargeMatrices) {
     for (const int cacheSize : {0, 1 << 20, std::numeric_limits<int>::max()}) {
         const CacheSize machine(cacheSize);
-        for (const auto &[height, width] :
-             {std::pair{256, 256}, {257, 259}, {1000, 333}, {70, 900}, {517, 1030}, {8, 600}, {600, 4}}) {
+        for (const auto &[height, width] : {std::pair{1024, 256},
+                                            {1025, 256},
+                                            {1024, 257},
+                                            {2061, 259},
+                                            {1000, 333},
+                                            {70, 900},
+                                            {517, 1030},
+                                            {8, 600},
+                                            {1600, 4}}) {
             for (const int padding : {0, 1, 24}) {
                 expectLargeTransposed<float>(height, width, padding, lxpmTranspose_m_32f);
                 expectLargeTransposed<double>(height, width, padding, lxpmTranspose_m_64f);
