@@ -9,6 +9,7 @@
 // whose rows overlap is left to the loops that write each element once, in the order of its rows.
 
 #include "products/readers.h"
+#include "runtime/nest.h"
 #include "runtime/object_walk.h"
 #include "runtime/turned_matrices.h"
 #include "runtime/with_order.h"
@@ -59,7 +60,7 @@ private:
     static constexpr std::ptrdiff_t tileColumns = 256;
 
     static Kernel choose(const Matrices &m) {
-        if (m.objects > 1 && objectsTouch(m.src) && objectsTouch(m.dst) && runsAreApart(m)) {
+        if (m.objects > 1 && objectsTouch(m.src) && objectsTouch(m.dst) && resultsAreApart(m)) {
             return objectsByRuns;
         }
         const bool byBytes = m.src.pointerStep[2] == 0 && m.dst.pointerStep[2] == 0;
@@ -95,13 +96,7 @@ private:
         return operand.step[0] == size && operand.pointerStep[0] == 0;
     }
 
-    // Whether the runs of one element of all objects do not overlap in the destination.
-    static bool runsAreApart(const Matrices &m) {
-        const std::ptrdiff_t run = m.objects * size;
-        const std::ptrdiff_t row = m.dst.step[1];
-        const std::ptrdiff_t element = m.dst.step[2];
-        return row < element ? row >= run && element >= m.width * row : element >= run && row >= m.height * element;
-    }
+    static bool resultsAreApart(const Matrices &m) { return areDisjoint(m.dst.step, {m.objects, m.width, m.height}); }
 
     template <class Function>
     [[gnu::always_inline]] static void forEachPair(const Matrices &m, const Function &function) {
@@ -131,10 +126,9 @@ private:
     static Kernel chooseTurned(const Matrices &m) {
         constexpr std::ptrdiff_t row = Order * size;
         const bool byBytes = m.src.pointerStep[0] == 0 && m.dst.pointerStep[0] == 0;
-        const bool areApart = m.objects == 1 || m.dst.step[0] >= Order * row;
         const bool isDense = m.src.step[1] == row && m.dst.step[1] == row;
         return Turned::template choose<Order>(
-            isDense && (areApart || Order == 3), byBytes,
+            isDense && (Order == 3 || m.objects == 1 || resultsAreApart(m)), byBytes,
             [](auto dense, auto walking) -> Kernel { return turned<Order, dense, walking>; });
     }
 

@@ -53,6 +53,23 @@ inline bool runsTouch(const Addresses<Element> &operand, std::ptrdiff_t n) {
     return operand.step[2] == sizeof(Element) && operand.step[1] == n * operand.step[2];
 }
 
+// Whether no element that these loops lead to stands on another: each loop's steps lead beyond all that the loops
+// closer together reach. Pointers are taken to lead apart.
+inline bool areDisjoint(const Steps &step, const std::array<std::ptrdiff_t, 3> &extent) {
+    std::array<std::pair<std::ptrdiff_t, std::ptrdiff_t>, 3> loops; // step, reach
+    for (int loop = 0; loop < 3; ++loop) {
+        loops[loop] = {step[loop], step[loop] * (extent[loop] - 1)};
+    }
+    for (const int at : {0, 1, 0}) {
+        if (loops[at + 1].first < loops[at].first) {
+            std::swap(loops[at], loops[at + 1]);
+        }
+    }
+    const std::ptrdiff_t closest = loops[0].second;
+    return (loops[1].second == 0 || loops[1].first > closest) &&
+           (loops[2].second == 0 || loops[2].first > closest + loops[1].second);
+}
+
 // Three loops, the outermost first, and the operands with their steps in the same order. When arranged, the innermost
 // loop moves by bytes alone if any does; loops that a call does not need take one step and stand outside.
 template <class T, std::size_t sources>
@@ -98,7 +115,7 @@ struct Nest {
             }
         }
         sort([](const Nest &nest, int loop) { return nest.rank(loop); });
-        isDisjoint = destinationIsDisjoint();
+        isDisjoint = areDisjoint(operand.dst.step, extent);
         // Innermost the loop in which the destination's elements stand closest. But where elements of the destination
         // stand on one another the order stays, so that the one written last is the last in natural order.
         if (isDisjoint) {
@@ -195,22 +212,6 @@ private:
                 exchange(outer, outer + 1);
             }
         }
-    }
-
-    // Whether each loop's steps of the destination lead beyond all that the loops closer together reach.
-    bool destinationIsDisjoint() const {
-        std::array<std::pair<std::ptrdiff_t, std::ptrdiff_t>, 3> loops; // step, reach
-        for (int loop = 0; loop < 3; ++loop) {
-            loops[loop] = {operand.dst.step[loop], operand.dst.step[loop] * (extent[loop] - 1)};
-        }
-        for (const int at : {0, 1, 0}) {
-            if (loops[at + 1].first < loops[at].first) {
-                std::swap(loops[at], loops[at + 1]);
-            }
-        }
-        const std::ptrdiff_t closest = loops[0].second;
-        return (loops[1].second == 0 || loops[1].first > closest) &&
-               (loops[2].second == 0 || loops[2].first > closest + loops[1].second);
     }
 
     // A loop and the one outside of it become one where the outer goes on where the inner ends, for every operand.
