@@ -27,6 +27,9 @@ struct Case {
     std::size_t bytesRead;
     std::size_t bytesWritten;
 
+    // The bytes of the products of two elements that one call adds up; 0 where this is not what a call is about.
+    std::size_t bytesOfProducts = 0;
+
     // The call, with its operands laid out in that memory; its first result is Memory::result().
     std::function<Call(const Memory &)> prepare;
 

@@ -1,11 +1,13 @@
 // Copyright (c) 2026 The lxpm authors
 // SPDX-License-Identifier: MIT
 
-// Measures every case: the library, each peer that offers the same computation, and the machine's bandwidth on the same
-// bytes. A benchmark is named <group>/<function>/<size>/<contestant>, which is all that the report needs to know.
+// Measures every case: the library, each peer that offers the same computation, the machine's bandwidth on the same
+// bytes and, for products, its rate of multiplications and additions. A benchmark is named
+// <group>/<function>/<size>/<contestant>, which is all that the report needs to know.
 
 #include "case.h"
 #include "machine.h"
+#include "multiply_adds.h"
 #include "peers/peers.h"
 #include "triad.h"
 
@@ -24,6 +26,7 @@ namespace {
 
 constexpr const char *library = "lxpm";
 constexpr const char *bandwidth = "triad";
+constexpr const char *rate = "multiplyAdds";
 
 // One line on the standard error stream, if that is a terminal.
 void showProgress(const std::string &what) {
@@ -122,6 +125,15 @@ std::function<Call(const Memory &)> prepareTriad(const Case &subject) {
     };
 }
 
+std::function<Call(const Memory &)> prepareMultiplyAdds(const Case &subject) {
+    return [&](const Memory &) -> Call {
+        return [&] {
+            multiplyAdds(subject.bytesOfProducts, subject.setting.threads);
+            return lxpStatusOk;
+        };
+    };
+}
+
 // Processor time where there is one thread, so that it does not matter what else the machine does at times.
 void registerContest(Contest contest, int threads) {
     const std::string name = contest.name();
@@ -144,6 +156,9 @@ void registerCase(const Case &subject) {
         }
     }
     registerContest({subject, bandwidth, prepareTriad(subject), false}, threads);
+    if (subject.bytesOfProducts != 0) {
+        registerContest({subject, rate, prepareMultiplyAdds(subject), false}, threads);
+    }
 }
 
 void addContext(const Setting &setting) {

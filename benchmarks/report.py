@@ -7,14 +7,15 @@
 usage: report.py RESULTS.json
 
 Benchmarks are named <group>/<function>/<size>/<contestant>. Of each, the median over its repetitions counts. The
-contestants are `lxpm`, the peers, and `triad`, the machine's bandwidth on the same bytes.
+contestants are `lxpm`, the peers, `triad`, the machine's bandwidth on the same bytes, and `multiplyAdds`, its rate of
+unfused multiplications and additions.
 """
 
 import json
 import math
 import sys
 
-LIBRARY, BANDWIDTH = "lxpm", "triad"
+LIBRARY, BANDWIDTH, RATE = "lxpm", "triad", "multiplyAdds"
 CONTEXT = ("processor", "compiler", "cache", "memory", "date", "load_avg")
 
 
@@ -43,8 +44,9 @@ def read_medians(results):
 class Row:
     def __init__(self, times):
         self.lxpm = times[LIBRARY]
-        self.share = times[BANDWIDTH] / self.lxpm if BANDWIDTH in times else None
-        peers = {name: time for name, time in times.items() if name not in (LIBRARY, BANDWIDTH)}
+        self.of_bandwidth = times[BANDWIDTH] / self.lxpm if BANDWIDTH in times else None
+        self.of_rate = times[RATE] / self.lxpm if RATE in times else None
+        peers = {name: time for name, time in times.items() if name not in (LIBRARY, BANDWIDTH, RATE)}
         self.best = min(peers, key=peers.get, default=None)
         self.peer = peers.get(self.best)
         self.ratio = self.peer / self.lxpm if peers else None
@@ -59,9 +61,13 @@ def show(value, form):
 
 
 def summary(name, rows):
-    ratios = [row.ratio for row in rows if row.ratio is not None]
+    def known(values):
+        return [value for value in values if value is not None]
+
+    ratios = known(row.ratio for row in rows)
     return (name, str(len(rows)), show(geometric_mean(ratios), ".2f"), show(min(ratios, default=None), ".2f"),
-            show(geometric_mean([row.share for row in rows if row.share is not None]), ".0%"))
+            show(geometric_mean(known(row.of_bandwidth for row in rows)), ".0%"),
+            show(geometric_mean(known(row.of_rate for row in rows)), ".0%"))
 
 
 def print_table(header, rows):
@@ -92,14 +98,15 @@ def main():
 
     every = [row for rows in tables.values() for row in rows.values()]
     print("### Geometric means\n")
-    print_table(("group", "cases", "peer / lxpm", "least", "of triad"),
+    print_table(("group", "cases", "peer / lxpm", "least", "of triad", "of multiply-adds"),
                 [summary(group, rows.values()) for group, rows in tables.items()] + [summary("all", every)])
 
     for group, rows in tables.items():
         print(f"### {group}\n")
-        print_table(("function", "size", "lxpm, ns/object", "best peer, ns/object", "which", "peer / lxpm", "of triad"),
+        print_table(("function", "size", "lxpm, ns/object", "best peer, ns/object", "which", "peer / lxpm", "of triad",
+                     "of multiply-adds"),
                     [(function, size, show(row.lxpm, ".2f"), show(row.peer, ".2f"), row.best or "",
-                      show(row.ratio, ".2f"), show(row.share, ".0%"))
+                      show(row.ratio, ".2f"), show(row.of_bandwidth, ".0%"), show(row.of_rate, ".0%"))
                      for (function, size), row in rows.items()])
 
 

@@ -33,6 +33,7 @@ struct Bytes {
     std::size_t read;
     std::size_t written;
     int count;
+    std::size_t products = 0;
 };
 
 // Operands of order n that fill the setting's memory.
@@ -45,6 +46,14 @@ Bytes bytesOf(const Setting &setting, Form form, int n) {
             count * one.template operator()<Result>(Form::dense), count};
 }
 
+// Operands of matrix products: every element of a result adds up n products.
+template <class T, class Result, class... Sources>
+Bytes bytesOfProduct(const Setting &setting, Form form, int n) {
+    Bytes bytes = bytesOf<T, Result, Sources...>(setting, form, n);
+    bytes.products = bytes.written * n;
+    return bytes;
+}
+
 template <class T>
 Case makeCase(const Setting &setting, const std::string &group, const std::string &name, Form form, Bytes bytes,
               std::function<Call(const Memory &)> prepare) {
@@ -55,6 +64,7 @@ Case makeCase(const Setting &setting, const std::string &group, const std::strin
             .objects = bytes.count,
             .bytesRead = bytes.read,
             .bytesWritten = bytes.written,
+            .bytesOfProducts = bytes.products,
             .prepare = std::move(prepare),
             .roundedElementSize = sizeof(T)};
 }
@@ -64,7 +74,7 @@ template <class T, Form form, class First, class Second>
 void appendProduct(std::vector<Case> &cases, const Setting &setting, const std::string &group, const std::string &name,
                    auto *function, int n) {
     using Result = Code<Second::kind, true>;
-    const Bytes bytes = bytesOf<T, Result, First, Second>(setting, form, n);
+    const Bytes bytes = bytesOfProduct<T, Result, First, Second>(setting, form, n);
     const auto prepare = [=](const Memory &memory) -> Call {
         const Operand<First, const T, form> first(static_cast<const T *>(memory.source1()), sizeFor(First::kind, n),
                                                   bytes.count);
@@ -104,7 +114,7 @@ template <class T, class Addend>
 void appendGaxpy(std::vector<Case> &cases, const Setting &setting, const std::string &group, const std::string &name,
                  auto *function, int n) {
     using namespace codes;
-    const Bytes bytes = bytesOf<T, va, va, Addend>(setting, Form::dense, n);
+    const Bytes bytes = bytesOfProduct<T, va, va, Addend>(setting, Form::dense, n);
     const auto prepare = [=](const Memory &memory) -> Call {
         const auto *source1 = static_cast<const T *>(memory.source1());
         const Operand<m, const T, Form::dense> matrix(source1, {n, n}, 1);
@@ -125,7 +135,7 @@ template <class T>
 void appendSingle(std::vector<Case> &cases, const std::string &name, auto *function, int n) {
     using namespace codes;
     const Setting &setting = cacheSetting();
-    const Bytes bytes = bytesOf<T, ma, ma, ma>(setting, Form::dense, n);
+    const Bytes bytes = bytesOfProduct<T, ma, ma, ma>(setting, Form::dense, n);
     const auto prepare = [=](const Memory &memory) -> Call {
         const auto *a = static_cast<const T *>(memory.source1());
         const auto *b = static_cast<const T *>(memory.source2());
