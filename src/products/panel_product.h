@@ -26,7 +26,7 @@ template <class T>
 class PanelProduct {
     static constexpr std::ptrdiff_t lanes = fullLanes<T>;
     static constexpr std::ptrdiff_t width = 2 * lanes; // of the widest block, in elements
-    static constexpr int blockRows = 4;
+    static constexpr int blockRows = 6; // at most: the sums of twelve registers leave four for what is multiplied
     static constexpr std::ptrdiff_t depth = 1024 / width; // of the inner dimension at a time
 
     using L = Lanes<T, fullLanes<T>>;
@@ -62,7 +62,11 @@ private:
 
     using OverRows = void (PanelProduct::*)(); // of an object
 
-    explicit PanelProduct(const MatrixProduct<T> &product) : p(product) {}
+    explicit PanelProduct(const MatrixProduct<T> &product) : p(product) {
+        const std::ptrdiff_t blocks = (p.rows + blockRows - 1) / blockRows;
+        rowsOfBlock = p.rows / blocks;
+        rowsOfLarger = p.rows % blocks * (rowsOfBlock + 1);
+    }
 
     // Columns of all results: up to as many as the registers have lanes; with two registers more than one of them has.
     template <int Registers>
@@ -135,23 +139,25 @@ private:
         return whole;
     }
 
-    // Calls f(row, number of rows) with as many rows at a time as a block has.
+    // Calls f(row, number of rows) with as many rows at a time as a block has: as few blocks as can be, of which none
+    // has more than one row less than another. Those with one more come first.
     template <class F>
-    [[gnu::always_inline]] static void forEachBlock(std::ptrdiff_t rows, const F &f) {
+    [[gnu::always_inline]] void forEachBlock(const F &f) const {
+        forEachBlock(f, Range<1, blockRows>());
+    }
+
+    template <class F, int... known>
+    [[gnu::always_inline]] void forEachBlock(const F &f, std::integer_sequence<int, known...>) const {
         std::ptrdiff_t row = 0;
-        for (; row + blockRows <= rows; row += blockRows) {
-            f(row, std::integral_constant<int, blockRows>());
-        }
-        switch (rows - row) {
-        case 3:
-            return f(row, std::integral_constant<int, 3>());
-        case 2:
-            return f(row, std::integral_constant<int, 2>());
-        case 1:
-            return f(row, std::integral_constant<int, 1>());
-        default:
-            return;
-        }
+        const auto blocksUpTo = [&](std::ptrdiff_t end, auto number) __attribute__((always_inline)) {
+            for (; row < end; row += number) {
+                f(row, number);
+            }
+        };
+        const std::ptrdiff_t number = rowsOfBlock;
+        const std::ptrdiff_t rows = p.rows;
+        ((known == number + 1 ? blocksUpTo(rowsOfLarger, std::integral_constant<int, known>()) : void()), ...);
+        ((known == number ? blocksUpTo(rows, std::integral_constant<int, known>()) : void()), ...);
     }
 
     // Where sums neither go on nor pass through copies they never leave their registers.
@@ -188,36 +194,35 @@ private:
         const std::ptrdiff_t dstRow = p.dst.step[1];
         const std::ptrdiff_t toSecond = second;
         const Panel b = panel;
-        forEachBlock(
-            p.rows, [&](std::ptrdiff_t row, auto rows) __attribute__((always_inline)) {
-                Block<rows, Registers> sums = {};
-                sum(sums, shifted(a, row * aRow), aRow, aElement, b);
-                if constexpr (hasAddend) {
-                    const T *from = shifted(addend, row * addendRow);
-#pragma GCC unroll 4
-                    for (auto &ofRow : sums) {
-#pragma GCC unroll 2
-                        for (std::size_t r = 0; r < Registers; ++r) {
-                            ofRow[r] = ofRow[r] + spared<Used>(loadFirstOf<Used>(from + std::ptrdiff_t(r) * toSecond));
-                        }
-                        from = shifted(from, addendRow);
-                    }
-                }
-                T *to = shifted(dst, row * dstRow);
-#pragma GCC unroll 4
-                for (const auto &ofRow : sums) {
+        forEachBlock([&](std::ptrdiff_t row, auto rows) __attribute__((always_inline)) {
+            Block<rows, Registers> sums = {};
+            sum(sums, shifted(a, row * aRow), aRow, aElement, b);
+            if constexpr (hasAddend) {
+                const T *from = shifted(addend, row * addendRow);
+#pragma GCC unroll 6
+                for (auto &ofRow : sums) {
 #pragma GCC unroll 2
                     for (std::size_t r = 0; r < Registers; ++r) {
-                        storeFirstOf<Used>(to + std::ptrdiff_t(r) * toSecond, spared<Used>(ofRow[r]));
+                        ofRow[r] = ofRow[r] + spared<Used>(loadFirstOf<Used>(from + std::ptrdiff_t(r) * toSecond));
                     }
-                    to = shifted(to, dstRow);
+                    from = shifted(from, addendRow);
                 }
-            });
+            }
+            T *to = shifted(dst, row * dstRow);
+#pragma GCC unroll 6
+            for (const auto &ofRow : sums) {
+#pragma GCC unroll 2
+                for (std::size_t r = 0; r < Registers; ++r) {
+                    storeFirstOf<Used>(to + std::ptrdiff_t(r) * toSecond, spared<Used>(ofRow[r]));
+                }
+                to = shifted(to, dstRow);
+            }
+        });
     }
 
     template <int Registers>
     void overRows() {
-        forEachBlock(p.rows, [&](std::ptrdiff_t row, auto rows) { block<rows, Registers>(row); });
+        forEachBlock([&](std::ptrdiff_t row, auto rows) { block<rows, Registers>(row); });
     }
 
     // Some rows of the panel's columns.
@@ -260,7 +265,7 @@ private:
             for (std::size_t r = 0; r < Registers; ++r) {
                 columns[r] = L::load(b.first + std::ptrdiff_t(r) * b.second);
             }
-#pragma GCC unroll 4
+#pragma GCC unroll 6
             for (std::size_t i = 0; i < Rows; ++i) {
                 const L factor = broadcast(shifted(a, std::ptrdiff_t(i) * aRow));
 #pragma GCC unroll 2
@@ -318,6 +323,8 @@ private:
     }
 
     const MatrixProduct<T> p;
+    std::ptrdiff_t rowsOfBlock;  // or one more
+    std::ptrdiff_t rowsOfLarger; // in all the blocks that have one more
     std::ptrdiff_t object = 0;
     std::ptrdiff_t column = 0;
     std::ptrdiff_t columnsUsed = 0;
