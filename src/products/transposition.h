@@ -6,17 +6,22 @@
 // up to order 16 and what is too narrow for the blocks as any that are turned do (TurnedMatrices), others by blocks: as
 // many rows of the source as a register has lanes and four columns leave it as four rows of the destination. Blocks at
 // the far edges overlap their neighbours instead of ending early, which writes some elements twice; so a destination
-// whose rows overlap is left to the loops that write each element once, in the order of its rows.
+// whose rows overlap is left to the loops that write each element once, in the order of its rows. Where the caches
+// could not keep the matrices, blocks are collected in a buffer until they fill whole cache lines of the destination.
 
 #include "products/readers.h"
 #include "runtime/nest.h"
 #include "runtime/object_walk.h"
+#include "runtime/runs.h"
+#include "runtime/streaming.h"
 #include "runtime/turned_matrices.h"
 #include "runtime/with_order.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
+#include <immintrin.h>
 #include <lxpcore.h>
 
 namespace lxpm {
@@ -58,6 +63,8 @@ private:
     static constexpr std::ptrdiff_t line = 64 / size;    // elements of a cache line
     static constexpr std::ptrdiff_t tileRows = 1024;
     static constexpr std::ptrdiff_t tileColumns = 256;
+    static constexpr std::ptrdiff_t bandRows = 32;
+    static constexpr std::ptrdiff_t bandColumns = 4096 / size;
 
     static Kernel choose(const Matrices &m) {
         if (m.objects > 1 && objectsTouch(m.src) && objectsTouch(m.dst) && resultsAreApart(m)) {
@@ -76,19 +83,26 @@ private:
     static Kernel chooseOrder(const Matrices &m) {
         return withOrder<3, 16>(m.height == m.width ? static_cast<int>(m.height) : 0, [&](auto order) -> Kernel {
             const bool hasBlocks = m.height >= rows && m.width >= side;
-            return order != 0 || !hasBlocks ? chooseTurned<order>(m) : isLarge(m) ? byTiles : byBlocks;
+            return order != 0 || !hasBlocks ? chooseTurned<order>(m) : chooseBlocks(m);
         });
     }
 
-    // Whether a pair of matrices is more than a tile and too large for one thread's share of the caches.
-    static bool isLarge(const Matrices &m) {
-        if (m.height <= tileRows && m.width <= tileColumns) {
-            return false;
+    // By the share of the largest cache that the operands would take.
+    static Kernel chooseBlocks(const Matrices &m) {
+        constexpr int sharesOfThreads = 32;
+        const bool isTile = m.height <= tileRows && m.width <= tileColumns;
+        const bool mayStream = m.height * size >= shortestStream;
+        if (isTile && !mayStream) {
+            return byBlocks;
         }
-        constexpr int shares = 32;
-        int largestCache = 0;
-        lxpGetMaxCacheSizeB(&largestCache); // 0: unknown
-        return 2 * m.height * m.width * size > largestCache / shares;
+        int largestCache = 0; // unknown
+        lxpGetMaxCacheSizeB(&largestCache);
+        const std::ptrdiff_t bytes = 2 * m.height * m.width * size;
+        // From two fifths on it makes no difference even to operands that are in the cache already.
+        if (mayStream && largestCache != 0 && m.objects * bytes > largestCache / 5 * 2) {
+            return pastCaches;
+        }
+        return !isTile && bytes > largestCache / sharesOfThreads ? byTiles : byBlocks;
     }
 
     template <class Element>
@@ -208,6 +222,88 @@ private:
             f(Piece{first, std::min(length, n - first)});
         }
     }
+
+    // Past the caches. A band of the source, some rows of it, becomes short pieces of the destination's rows, which are
+    // written as whole cache lines only. What the band before could not fill of a line is therefore turned once more.
+
+    static void pastCaches(const Matrices &shared) {
+        const Matrices m = shared;
+        forEachPair(m, [&](const Pair &pair) {
+            forEachPiece(m.width, bandColumns, side, [&](Piece ofColumns) {
+                forEachPiece(m.height, bandRows, rows, [&](Piece ofRows) { band(pair, m.height, ofRows, ofColumns); });
+            });
+        });
+        finishStreaming();
+    }
+
+    // The first element of the cache line in which an element of a row stands.
+    static std::ptrdiff_t startOfLine(const T *row, std::ptrdiff_t element) {
+        return element - static_cast<std::ptrdiff_t>(reinterpret_cast<std::uintptr_t>(row + element) % 64) / size;
+    }
+
+    static void band(const Pair &pair, std::ptrdiff_t height, Piece ofRows, Piece ofColumns) {
+        const std::ptrdiff_t end = ofRows.first + ofRows.length;
+        const bool startAlike = pair.dstStep % 64 == 0; // in their lines, all rows of the destination
+        const std::ptrdiff_t begin = std::max<std::ptrdiff_t>(
+            startAlike ? startOfLine(pair.to(ofColumns.first, 0), ofRows.first) : ofRows.first - line, 0);
+
+        const bool isAligned = (reinterpret_cast<std::uintptr_t>(pair.dst) | pair.dstStep) % size == 0;
+        const bool areWholeLines = isAligned && ofRows.first > 0 && end < height;
+
+        alignas(64) T turned[line][bandRows + line];
+        constexpr std::ptrdiff_t turnedStep = sizeof(turned[0]);
+        Fetch next(pair.from(end, ofColumns.first), pair.srcStep, std::min(bandRows, height - end), ofColumns.length);
+        forEachPiece(ofColumns.length, line, side, [&](Piece strip) {
+            next.lines(bandRows);
+            const std::ptrdiff_t column = ofColumns.first + strip.first;
+            area({pair.from(begin, column), pair.srcStep, turned[0], turnedStep}, {0, end - begin}, {0, strip.length});
+            for (std::ptrdiff_t i = 0; i < strip.length; ++i) {
+                T *const row = pair.to(column + i, 0);
+                const std::ptrdiff_t from = std::max(startOfLine(row, ofRows.first), begin);
+                const std::ptrdiff_t to = end == height ? end : startOfLine(row, end);
+                const T *const elements = turned[i] + (from - begin);
+                if (areWholeLines) {
+                    streamLines(to - from, row + from, elements);
+                } else {
+                    runStreamed(Same(), to - from, row + from, Run<T, Moves::Along>{elements, size});
+                }
+            }
+        });
+    }
+
+    static void streamLines(std::ptrdiff_t n, T *to, const T *from) {
+        using L = Lanes<T, fullLanes<T>>;
+        for (std::ptrdiff_t i = 0; i < n; i += fullLanes<T>) {
+            L::load(from + i).stream(to + i);
+        }
+    }
+
+    // Brings rows of the source closer, a few cache lines at a time in the order in which they stand, which memory
+    // likes better than the order in which blocks need them.
+    class Fetch {
+    public:
+        Fetch(const T *first, std::ptrdiff_t step, std::ptrdiff_t rows, std::ptrdiff_t columns)
+            : row_(first), step_(step), rows_(rows), columns_(columns) {}
+
+        [[gnu::always_inline]] void lines(std::ptrdiff_t number) {
+            for (; number > 0 && rows_ > 0; --number) {
+                _mm_prefetch(row_ + column_, _MM_HINT_T0);
+                column_ += line;
+                if (column_ >= columns_) {
+                    column_ = 0;
+                    row_ = shifted(row_, step_);
+                    --rows_;
+                }
+            }
+        }
+
+    private:
+        const T *row_;
+        std::ptrdiff_t step_;
+        std::ptrdiff_t rows_; // left
+        std::ptrdiff_t columns_;
+        std::ptrdiff_t column_ = 0;
+    };
 
     // Elsewhere.
 

@@ -80,6 +80,44 @@ TEST(Streaming, GivesTheSameResults) {
     }
 }
 
+/// Rows of the destination that start anywhere in a cache line and end anywhere in one, in matrices of several bands
+/// and of more columns than a band has.
+TEST(Streaming, TransposesIntoWholeCacheLines) {
+    setThreadCount(1);
+    const std::vector<const Export *> exports =
+        exportsThat([](const Model &model) { return model.operation == "Transpose"; });
+    ASSERT_EQ(exports.size(), 10u);
+    int shift = 0;
+    for (const Export *item : exports) {
+        const CacheSize machine(1);
+        Report report;
+        const auto call = [&](const Shape &shape, int patterns) {
+            std::vector<Placement> placements = combination(item->model, patterns);
+            for (Placement &placement : placements) {
+                placement.shift = shift++ % 17;
+            }
+            Call one(*item, shape, item->model.hasCount ? 2 : 1, placements);
+            one.fill(distinctValues(item->model.type));
+            one.verifyResults(report);
+        };
+        // Width and height of the source: the shortest rows that are streamed in either type, and one less.
+        for (const Shape &shape : {Shape{7, 127}, {8, 128}, {16, 255}, {33, 256}, {4, 257}, {5, 290}, {17, 271}}) {
+            for (int patterns = 0; patterns < combinations(); ++patterns) {
+                call(shape, patterns);
+            }
+        }
+        for (const int width : {512, 513, 1024, 1027}) {
+            call({width, 300}, 0);
+        }
+        for (int start = 0; start < 17; ++start) {
+            call({21, 263}, 0);
+            call({19, 272}, 0); // rows of whole lines: they all start at the same place of one
+        }
+        expectSound(report);
+        EXPECT_TRUE(machine.questions() > 0 || item->model.layout == Layout::ElementPointers) << item->model.name;
+    }
+}
+
 TEST(Streaming, WithoutItResultsAreTheSame) {
     setThreadCount(1);
     for (const int cacheSize : {0, std::numeric_limits<int>::max()}) {

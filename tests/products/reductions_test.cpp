@@ -158,9 +158,9 @@ void expectLargeTransposed(int height, int width, int padding, Function transpos
     }
 }
 
-// In tiles where the caches are small or unknown, at once where they are large.
+// In tiles where the caches are unknown, past small ones, and at once where they are large.
 TEST(Transposition, OfLargeMatrices) {
-    for (const int cacheSize : {0, 1 << 20, std::numeric_limits<int>::max()}) {
+    for (const int cacheSize : {0, 1 << 20, 16 << 20, std::numeric_limits<int>::max()}) {
         const CacheSize machine(cacheSize);
         for (const auto &[height, width] : {std::pair{1024, 256},
                                             {1025, 256},
