@@ -21,50 +21,71 @@
 namespace lxpm {
 
 // The unrolled kernel that fits what is given.
+
+template <class T, int Order>
+inline constexpr std::ptrdiff_t bytesOfRow = Order * sizeof(T);
+
+template <Walking walking, class T, int Order, Moves a>
+void multiplyRowVectors(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+    const bool singleB = p.b.isSingle();
+    if constexpr (walking == Walking::ByBytes) {
+        if (singleB && p.dst.step[0] == bytesOfRow<T, Order>) {
+            return p.addend ? multiplyUnrolled<walking, T, Order, 1, Given{a, true, true, true}>(p, count)
+                            : multiplyUnrolled<walking, T, Order, 1, Given{a, true, true, false}>(p, count);
+        }
+    }
+    if (p.addend) {
+        return singleB ? multiplyUnrolled<walking, T, Order, 1, Given{a, true, false, true}>(p, count)
+                       : multiplyUnrolled<walking, T, Order, 1, Given{a, false, false, true}>(p, count);
+    }
+    return singleB ? multiplyUnrolled<walking, T, Order, 1, Given{a, true, false, false}>(p, count)
+                   : multiplyUnrolled<walking, T, Order, 1, Given{a, false, false, false}>(p, count);
+}
+
+template <Walking walking, class T, int Order, Moves a>
+void multiplySquares(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+    const bool singleB = p.b.isSingle();
+    if constexpr (a != Moves::Any) {
+        if (p.dst.step[1] == bytesOfRow<T, Order>) {
+            return singleB ? multiplyUnrolled<walking, T, Order, Order, Given{a, true, true, false}>(p, count)
+                           : multiplyUnrolled<walking, T, Order, Order, Given{a, false, true, false}>(p, count);
+        }
+    }
+    return singleB ? multiplyUnrolled<walking, T, Order, Order, Given{a, true, false, false}>(p, count)
+                   : multiplyUnrolled<walking, T, Order, Order, Given{a, false, false, false}>(p, count);
+}
+
 template <Walking walking, class T, int Order>
 void chooseUnrolledWalking(const MatrixProduct<T> &p, std::ptrdiff_t count) {
-    const bool singleB = p.b.isSingle();
-    constexpr std::ptrdiff_t touching = Order * sizeof(T);
+    const bool along = p.a.rowsTouch();
     if (p.rows == 1) {
-        if constexpr (walking == Walking::ByBytes) {
-            if (singleB && p.dst.step[0] == touching) {
-                return p.addend ? multiplyUnrolled<walking, T, Order, 1, Given{true, true, true}>(p, count)
-                                : multiplyUnrolled<walking, T, Order, 1, Given{true, true, false}>(p, count);
-            }
-        }
-        if (p.addend) {
-            return singleB ? multiplyUnrolled<walking, T, Order, 1, Given{true, false, true}>(p, count)
-                           : multiplyUnrolled<walking, T, Order, 1, Given{false, false, true}>(p, count);
-        }
-        return singleB ? multiplyUnrolled<walking, T, Order, 1, Given{true, false, false}>(p, count)
-                       : multiplyUnrolled<walking, T, Order, 1, Given{false, false, false}>(p, count);
+        return along ? multiplyRowVectors<walking, T, Order, Moves::Along>(p, count)
+                     : multiplyRowVectors<walking, T, Order, Moves::Any>(p, count);
     }
-
-    const bool denseRows = p.dst.step[1] == touching;
     if constexpr (std::is_same_v<T, float> && Order == 4) {
-        if (p.a.rowsTouch()) {
-            return singleB ? multiplyOrder4<walking, true>(p, count) : multiplyOrder4<walking, false>(p, count);
+        if (along) {
+            return p.b.isSingle() ? multiplyOrder4<walking, true>(p, count) : multiplyOrder4<walking, false>(p, count);
         }
     }
     if constexpr (std::is_same_v<T, float> && Order == 3) {
-        const bool isDense = p.a.rowsTouch() && p.a.step[1] == touching && (singleB || p.b.step[1] == touching);
+        constexpr std::ptrdiff_t touching = bytesOfRow<T, Order>;
+        const bool singleB = p.b.isSingle();
+        const bool denseRows = p.dst.step[1] == touching;
+        const bool isDense = along && p.a.step[1] == touching && (singleB || p.b.step[1] == touching);
         if (isDense && count > 1) {
             denseRows ? singleB ? multiplyPairsOfOrder3<walking, true, true>(p, count)
                                 : multiplyPairsOfOrder3<walking, false, true>(p, count)
             : singleB ? multiplyPairsOfOrder3<walking, true, false>(p, count)
                       : multiplyPairsOfOrder3<walking, false, false>(p, count);
             if (count % 2 != 0) {
-                multiplyUnrolled<walking, T, Order, Order, Given{false, false, false}>(p.from(count - 1), 1);
+                multiplySquares<walking, T, Order, Moves::Along>(p.from(count - 1), 1);
             }
             return;
         }
     }
-    if (denseRows) {
-        return singleB ? multiplyUnrolled<walking, T, Order, Order, Given{true, true, false}>(p, count)
-                       : multiplyUnrolled<walking, T, Order, Order, Given{false, true, false}>(p, count);
-    }
-    return singleB ? multiplyUnrolled<walking, T, Order, Order, Given{true, false, false}>(p, count)
-                   : multiplyUnrolled<walking, T, Order, Order, Given{false, false, false}>(p, count);
+    return along                          ? multiplySquares<walking, T, Order, Moves::Along>(p, count)
+           : p.a.transposed().rowsTouch() ? multiplySquares<walking, T, Order, Moves::Across>(p, count)
+                                          : multiplySquares<walking, T, Order, Moves::Any>(p, count);
 }
 
 template <class T, int Order>

@@ -6,6 +6,7 @@
 // registers, and a row of the result is the sum of these rows, each times an element of the first operand.
 //
 // The elements of rows touch, in the second operand, the addend and the destination; the first operand moves by bytes.
+// All of them are walked from row to row: products of row numbers with steps would need more registers than there are.
 
 #include "products/product.h"
 #include "runtime/lanes.h"
@@ -129,6 +130,7 @@ template <class Row, class Object>
 
 // How far a kernel may count on what it is given.
 struct Given {
+    Moves a;        // along the rows of the first operand where their elements touch, across them where its columns' do
     bool singleB;   // the second operand is the same for all objects
     bool denseRows; // the destination's rows touch, those of vectors in the array, so that a row may be stored over the
                     // beginning of the next one
@@ -137,20 +139,24 @@ struct Given {
 
 // The rows of one result. Addend: none or one. Whole: how many of the rows may be stored over what stands behind them.
 template <int Rows, int whole, class Row, std::size_t Order, class A, class D, class... Addend>
-[[gnu::always_inline]] inline void multiplyRows(const A &a, const std::array<Row, Order> &b, const D &dst,
-                                                const Addend &...addend) {
+[[gnu::always_inline]] inline void multiplyRows(A a, const std::array<Row, Order> &b, D dst, Addend... addend) {
 #pragma GCC unroll 8
     for (int i = 0; i < Rows; ++i) {
         Row sum = Row::zero();
 #pragma GCC unroll 8
         for (std::size_t k = 0; k < Order; ++k) {
-            sum.add(*a.at(i, static_cast<std::ptrdiff_t>(k)), b[k]);
+            sum.add(*a.at(0, static_cast<std::ptrdiff_t>(k)), b[k]);
         }
-        (sum.add(loadRow<static_cast<int>(Order)>(addend, i)), ...);
+        (sum.add(loadRow<static_cast<int>(Order)>(addend, 0)), ...);
         if (i < whole) {
-            sum.storeWhole(dst.at(i, 0));
+            sum.storeWhole(dst.at(0, 0));
         } else {
-            storeRow(sum, dst, i);
+            storeRow(sum, dst, 0);
+        }
+        if (i + 1 < Rows) {
+            a = a.below();
+            dst = dst.below();
+            ((addend = addend.below()), ...);
         }
     }
 }
@@ -158,8 +164,9 @@ template <int Rows, int whole, class Row, std::size_t Order, class A, class D, c
 template <Walking walking, class T, int Order, int Rows, Given given>
 void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
     const MatrixProduct<T> p = shared; // a copy that no store below can reach
-    const std::ptrdiff_t aRow = p.a.step[1];
-    const std::ptrdiff_t aElement = p.a.step[2];
+    constexpr std::ptrdiff_t size = sizeof(T);
+    const std::ptrdiff_t aRow = given.a == Moves::Across ? size : p.a.step[1];
+    const std::ptrdiff_t aElement = given.a == Moves::Along ? size : p.a.step[2];
     const std::ptrdiff_t bRow = p.b.step[1];
     const std::ptrdiff_t addendRow = p.addend ? p.addend->step[1] : 0;
     const std::ptrdiff_t dstRow = p.dst.step[1];
@@ -169,7 +176,8 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
     const auto loadB = [&](const T *first) __attribute__((always_inline)) {
 #pragma GCC unroll 8
         for (int k = 0; k < Order; ++k) {
-            b[k] = Row::load(shifted(first, k * bRow));
+            b[k] = Row::load(first);
+            first = shifted(first, bRow);
         }
     };
     ObjectWalk<const T, walking> walkA(p.a);
@@ -185,9 +193,9 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
             walkB.next();
         }
         const StridedObject<const T> a = {walkA.object(), aRow, aElement};
-        const TouchingObject<T> dst({walkDst.object(), dstRow, sizeof(T)});
+        const TouchingObject<T> dst({walkDst.object(), dstRow, size});
         if constexpr (given.addend) {
-            multiplyRows<Rows, whole>(a, b, dst, TouchingObject<const T>({walkAddend.object(), addendRow, sizeof(T)}));
+            multiplyRows<Rows, whole>(a, b, dst, TouchingObject<const T>({walkAddend.object(), addendRow, size}));
         } else {
             multiplyRows<Rows, whole>(a, b, dst);
         }

@@ -27,6 +27,7 @@ struct StridedObject {
         return shifted(first, row * rowStep + column * columnStep);
     }
     StridedObject transposed() const { return {first, columnStep, rowStep}; }
+    StridedObject below() const { return {shifted(first, rowStep), rowStep, columnStep}; } // without the first row
     bool rowsTouch() const { return columnStep == static_cast<std::ptrdiff_t>(sizeof(Element)); }
     bool isDense(std::ptrdiff_t columns) const { return rowsTouch() && rowStep == columns * columnStep; }
     Run<std::remove_const_t<Element>, Moves::Along> row(std::ptrdiff_t i) const { return {at(i, 0), columnStep}; }
@@ -43,6 +44,7 @@ struct TouchingObject {
     explicit TouchingObject(const StridedObject<Element> &object) : first(object.first), rowStep(object.rowStep) {}
 
     Element *at(std::ptrdiff_t row, std::ptrdiff_t column) const { return shifted(first, row * rowStep) + column; }
+    TouchingObject below() const { return TouchingObject({shifted(first, rowStep), rowStep, sizeof(Element)}); }
     static constexpr bool rowsTouch() { return true; }
 };
 
@@ -59,6 +61,7 @@ struct PointedObject {
         return shifted(pointers[row * rowStep + column * columnStep], offset);
     }
     PointedObject transposed() const { return {pointers, offset, columnStep, rowStep}; }
+    PointedObject below() const { return {pointers + rowStep, offset, rowStep, columnStep}; }
 };
 
 // The same value wherever one looks.
