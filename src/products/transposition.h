@@ -282,8 +282,8 @@ private:
     // likes better than the order in which blocks need them.
     class Fetch {
     public:
-        Fetch(const T *first, std::ptrdiff_t step, std::ptrdiff_t rows, std::ptrdiff_t columns)
-            : row_(first), step_(step), rows_(rows), columns_(columns) {}
+        Fetch(const T *first, std::ptrdiff_t step, std::ptrdiff_t height, std::ptrdiff_t width)
+            : row_(first), step_(step), rows_(height), columns_(width) {}
 
         [[gnu::always_inline]] void lines(std::ptrdiff_t number) {
             for (; number > 0 && rows_ > 0; --number) {
