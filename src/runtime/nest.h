@@ -175,13 +175,40 @@ private:
             if (distance(o.pointers[0], *pointer) != line * (lines > 1 ? step[1] : 0)) {
                 return;
             }
-            for (std::ptrdiff_t i = 1; i < extent[inner]; ++i, pointer += o.pointerStep[inner]) {
-                if (distance(pointer[0], pointer[o.pointerStep[inner]]) != step[inner]) {
-                    return;
-                }
+            if (!areApart(step[inner], pointer, o.pointerStep[inner], extent[inner])) {
+                return;
             }
         }
         o = Addresses<Element>::strided(shifted(o.pointers[0], o.offset), step);
+    }
+
+    // Whether each of n pointers leads so many bytes behind the one before it. Several are looked at before the answer
+    // is asked for: a branch for each of them would take longer than to add what most of them lead to.
+    template <class Element>
+    static bool areApart(std::ptrdiff_t bytes, Element *const *pointer, std::ptrdiff_t pointerStep, std::ptrdiff_t n) {
+        constexpr std::ptrdiff_t atOnce = 8;
+        Element *last = *pointer;
+        std::ptrdiff_t i = 1;
+        for (; i + atOnce <= n; i += atOnce) {
+            std::ptrdiff_t differences = 0;
+#pragma GCC unroll 8
+            for (int k = 0; k < atOnce; ++k) {
+                pointer += pointerStep;
+                differences |= distance(last, *pointer) ^ bytes;
+                last = *pointer;
+            }
+            if (differences != 0) {
+                return false;
+            }
+        }
+        for (; i < n; ++i) {
+            pointer += pointerStep;
+            if (distance(last, *pointer) != bytes) {
+                return false;
+            }
+            last = *pointer;
+        }
+        return true;
     }
 
     template <class Element>
