@@ -95,14 +95,18 @@ void chooseUnrolled(const MatrixProduct<T> &p, std::ptrdiff_t count) {
 }
 
 // Objects of an unrolled order in any layout: a few at a time, copied where the kernel cannot read or write them.
+// Copies stand by bytes; so if some operands are copied, none of the others moves through pointers.
 template <class T, int Order>
 [[gnu::noinline]] void multiplyStaged(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     constexpr std::ptrdiff_t capacity = 512;
     constexpr std::ptrdiff_t area = Order * Order;
-    StagedSource<T, capacity> a(p.a, !p.a.movesByBytes(), p.rows, Order);
-    StagedSource<T, capacity> b(p.b, !p.b.rowsTouch(), Order, Order);
-    StagedSource<T, capacity> addend(p.addend.value_or(p.b), p.addend && !p.addend->rowsTouch(), p.rows, Order);
-    StagedDestination<T, capacity> dst(p.dst, p.rows, Order);
+    const bool copiesArray = !p.a.movesByBytes() || (!p.b.rowsTouch() && !p.b.isSingle()) || !p.writesRows();
+    const bool copiesAll = copiesArray && !p.walksByBytes();
+    StagedSource<T, capacity> a(p.a, copiesAll || !p.a.movesByBytes(), p.rows, Order);
+    StagedSource<T, capacity> b(p.b, copiesAll || !p.b.rowsTouch(), Order, Order);
+    StagedSource<T, capacity> addend(p.addend.value_or(p.b), p.addend && (copiesAll || !p.addend->rowsTouch()), p.rows,
+                                     Order);
+    StagedDestination<T, capacity> dst(p.dst, copiesAll || !p.dst.rowsTouch(), p.rows, Order);
     const std::ptrdiff_t piece = capacity / area;
     for (std::ptrdiff_t first = 0; first < count; first += piece) {
         const std::ptrdiff_t objects = std::min(piece, count - first);

@@ -83,8 +83,8 @@ private:
 template <class T, std::ptrdiff_t capacity>
 class StagedDestination {
 public:
-    StagedDestination(const Addresses<T> &operand, std::ptrdiff_t rows, std::ptrdiff_t columns)
-        : operand_(operand), copies_(!operand.rowsTouch()), rows_(rows), columns_(columns) {}
+    StagedDestination(const Addresses<T> &operand, bool copies, std::ptrdiff_t rows, std::ptrdiff_t columns)
+        : operand_(operand), copies_(copies), rows_(rows), columns_(columns) {}
 
     bool copies() const { return copies_; }
 

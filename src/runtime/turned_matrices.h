@@ -41,7 +41,7 @@ public:
     template <int Order, class Kernel>
     static auto choose(bool isDense, bool byBytes, const Kernel &kernel) {
         return byBytes ? chooseDensity<Order, Walking::ByBytes>(isDense, kernel)
-                       : chooseDensity<Order, Walking::ThroughPointers>(isDense, kernel);
+                       : chooseDensity<Order, Walking::EitherWay>(isDense, kernel);
     }
 
     // Order, isDense, walking: as choose() chooses them.
