@@ -182,7 +182,7 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
     };
     ObjectWalk<const T, walking> walkA(p.a);
     ObjectWalk<const T, walking> walkB(p.b);
-    ObjectWalk<const T, walking> walkAddend(p.addend.value_or(p.a));
+    ObjectWalk<const T, walking> walkAddend(p.addend ? *p.addend : p.a);
     ObjectWalk<T, walking> walkDst(p.dst);
     if constexpr (given.singleB) {
         loadB(walkB.object());

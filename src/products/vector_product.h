@@ -118,7 +118,7 @@ private:
             b[k] = joined(row, row);
         }
         ObjectWalk<const float, walking> a(p.a);
-        ObjectWalk<const float, walking> addend(p.addend.value_or(p.a));
+        ObjectWalk<const float, walking> addend(p.addend ? *p.addend : p.a);
         ObjectWalk<float, walking> dst(p.dst);
         std::ptrdiff_t object = 0;
         for (; object + 2 <= count; object += 2) {

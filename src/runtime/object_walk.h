@@ -30,24 +30,24 @@ private:
     std::ptrdiff_t step;
 };
 
-// An operand without pointers gets one.
+// An operand without pointers has one in its base. The operand has to stay where it is as long as the walk goes on; a
+// walk that kept the base itself would be kept in memory by the compiler, for the sake of the base's address.
 template <class Element>
 class ObjectWalk<Element, Walking::ThroughPointers> {
 public:
     explicit ObjectWalk(const Addresses<Element> &operand)
-        : base(operand.base), pointer(operand.pointers != nullptr ? operand.pointers : &base),
-          pointerStep(operand.pointerStep[0]), offset(operand.offset) {}
-    ObjectWalk(const ObjectWalk &) = delete;
-    ObjectWalk &operator=(const ObjectWalk &) = delete;
+        : pointer(operand.pointers != nullptr ? operand.pointers : &operand.base),
+          pointerStep(operand.pointerStep[0] * static_cast<std::ptrdiff_t>(sizeof(Element *))), offset(operand.offset) {
+    }
+    explicit ObjectWalk(const Addresses<Element> &&) = delete;
 
     // Of the object at which the walk stands. A pointer behind the last object's is never read.
     [[gnu::always_inline]] Element *object() const { return shifted(*pointer, offset); }
-    [[gnu::always_inline]] void next() { pointer += pointerStep; }
+    [[gnu::always_inline]] void next() { pointer = shifted(pointer, pointerStep); }
 
 private:
-    Element *base;
     Element *const *pointer;
-    std::ptrdiff_t pointerStep;
+    std::ptrdiff_t pointerStep; // in bytes
     std::ptrdiff_t offset;
 };
 
