@@ -4,8 +4,8 @@
 
 // Which kernel computes a product. For the sources that instantiate them, one for each type.
 
+#include "products/column_product.h"
 #include "products/group_product.h"
-#include "products/lane_product.h"
 #include "products/panel_product.h"
 #include "products/product.h"
 #include "products/row_product.h"
@@ -13,6 +13,7 @@
 #include "products/unrolled_product.h"
 #include "products/vector_product.h"
 #include "runtime/parallel.h"
+#include "runtime/vector_groups.h"
 #include "runtime/with_order.h"
 
 #include <algorithm>
@@ -161,8 +162,8 @@ void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     std::ptrdiff_t done = 0;
     if (VectorsOf<T, Order>::accepts(p)) {
         done = VectorsOf<T, Order>::run(p, count);
-    } else if (LaneProduct<T, Order>::accepts(p)) {
-        done = LaneProduct<T, Order>::run(p, count);
+    } else if (ColumnProduct<T, Order>::accepts(p)) {
+        done = ColumnProduct<T, Order>::run(p, count);
     } else if (isOneProduct(p, count)) {
         return multiplyByPanels(p, count);
     }

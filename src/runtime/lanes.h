@@ -97,6 +97,11 @@ inline Lanes<T, 4> firstLanesOf(Lanes<T, 4> first, Lanes<T, 4> others) {
     }
 }
 
+template <int K>
+inline Lanes<float, 8> firstLanesOf(Lanes<float, 8> first, Lanes<float, 8> others) {
+    return {_mm256_blend_ps(others.vector, first.vector, (1 << K) - 1)};
+}
+
 // Of four lanes the last of the first K also in those behind it.
 template <int K, class T>
 inline Lanes<T, 4> lastRepeated(Lanes<T, 4> x) {
@@ -425,6 +430,17 @@ inline double sumOverLanes(Lanes<double, 4> x) {
 template <int a, int b, int c, int d>
 inline Lanes<float, 8> chosenInHalves(Lanes<float, 8> lanes) {
     return {_mm256_permute_ps(lanes.vector, a | b << 2 | c << 4 | d << 6)};
+}
+
+// In each half, one lane of that half.
+template <int lane>
+inline Lanes<float, 8> spreadInHalves(Lanes<float, 8> lanes) {
+    return chosenInHalves<lane, lane, lane, lane>(lanes);
+}
+
+template <int lane>
+inline Lanes<double, 4> spreadInHalves(Lanes<double, 4> lanes) {
+    return {_mm256_permute_pd(lanes.vector, lane == 0 ? 0b0000 : 0b1111)};
 }
 
 } // namespace lxpm
