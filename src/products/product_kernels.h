@@ -35,6 +35,12 @@ void multiplyRowVectors(const MatrixProduct<T> &p, std::ptrdiff_t count) {
                             : multiplyUnrolled<walking, T, Order, 1, Given{a, true, true, false}>(p, count);
         }
     }
+    if constexpr (a == Moves::Along && ElementRow<T, Order>::mayReadOn) {
+        const bool areClose = p.b.step[1] >= bytesOfRow<T, Order> && p.b.step[1] <= smallestPage;
+        if (!singleB && !p.addend && areClose) {
+            return multiplyUnrolled<walking, T, Order, 1, Given{a, false, false, false, true}>(p, count);
+        }
+    }
     if (p.addend) {
         return singleB ? multiplyUnrolled<walking, T, Order, 1, Given{a, true, false, true}>(p, count)
                        : multiplyUnrolled<walking, T, Order, 1, Given{a, false, false, true}>(p, count);

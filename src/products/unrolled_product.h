@@ -13,6 +13,7 @@
 #include "runtime/object_walk.h"
 #include "runtime/one_object.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <type_traits>
@@ -27,6 +28,9 @@ class ElementRow {
     static constexpr int last = N - (registers - 1) * lanes;
 
 public:
+    using Part = Lanes<T, lanes>;
+    static constexpr bool isWide = lanes == fullLanes<T>; // it fills whole registers
+
     ElementRow() = default;
     explicit ElementRow(Lanes<T, lanes> only) requires(registers == 1) : part{only} {}
 
@@ -59,6 +63,14 @@ public:
         return row;
     }
 
+    // Whether a whole register holds more lanes than are loaded, in so many pieces that it pays to read on behind them.
+    static constexpr bool mayReadOn = registers == 1 && lanes == 8 && N < 8;
+
+    // The same where a whole register may be read.
+    static ElementRow loadReadingOn(const T *from) requires mayReadOn {
+        return ElementRow(firstLanesOf<N>(Part::load(from), Part{}));
+    }
+
     void store(T *to) const {
         for (int r = 0; r + 1 < registers; ++r) {
             part[r].store(to + r * lanes);
@@ -89,9 +101,12 @@ public:
 
     // Adds factor times another row.
     [[gnu::always_inline]] void add(T factor, const ElementRow &row) {
-        const auto f = Lanes<T, lanes>::splat(factor);
+        add(Part::splat(factor), row);
+    }
+
+    [[gnu::always_inline]] void add(Part factor, const ElementRow &row) {
         for (int r = 0; r < registers; ++r) {
-            part[r] = part[r] + f * row.part[r];
+            part[r] = part[r] + factor * row.part[r];
         }
     }
 
@@ -135,17 +150,35 @@ struct Given {
     bool denseRows; // the destination's rows touch, those of vectors in the array, so that a row may be stored over the
                     // beginning of the next one
     bool addend;
+    bool readsOn = false; // a whole register may be read from where each row of the second operand starts but the last
 };
 
+// Adds all rows, each times one element of a vector. The elements come several at a time, and are spread in registers,
+// where each row is used once: a load for each would leave none for the rows.
+template <class Row, class T, std::size_t Order>
+[[gnu::always_inline]] inline void addTouching(Row &sum, const T *vector, const std::array<Row, Order> &rows) {
+    constexpr int lanes = 16 / static_cast<int>(sizeof(T)); // of a half
+    forEachOf<Order>([&](auto k) __attribute__((always_inline)) {
+        // Those at the end together with some before them.
+        constexpr int first = std::min(k / lanes * lanes, static_cast<int>(Order) - lanes);
+        sum.add(spreadInHalves<k - first>(bothHalves(vector + first)), rows[k]);
+    });
+}
+
 // The rows of one result. Addend: none or one. Whole: how many of the rows may be stored over what stands behind them.
+// The elements of a row of the first operand are taken one by one, but where its type says that they touch.
 template <int Rows, int whole, class Row, std::size_t Order, class A, class D, class... Addend>
 [[gnu::always_inline]] inline void multiplyRows(A a, const std::array<Row, Order> &b, D dst, Addend... addend) {
 #pragma GCC unroll 8
     for (int i = 0; i < Rows; ++i) {
         Row sum = Row::zero();
+        if constexpr (std::is_same_v<A, TouchingObject<typename A::Element>>) {
+            addTouching(sum, a.at(0, 0), b);
+        } else {
 #pragma GCC unroll 8
-        for (std::size_t k = 0; k < Order; ++k) {
-            sum.add(*a.at(0, static_cast<std::ptrdiff_t>(k)), b[k]);
+            for (std::size_t k = 0; k < Order; ++k) {
+                sum.add(*a.at(0, static_cast<std::ptrdiff_t>(k)), b[k]);
+            }
         }
         (sum.add(loadRow<static_cast<int>(Order)>(addend, 0)), ...);
         if (i < whole) {
@@ -176,7 +209,11 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
     const auto loadB = [&](const T *first) __attribute__((always_inline)) {
 #pragma GCC unroll 8
         for (int k = 0; k < Order; ++k) {
-            b[k] = Row::load(first);
+            if constexpr (given.readsOn) {
+                b[k] = k + 1 < Order ? Row::loadReadingOn(first) : Row::load(first);
+            } else {
+                b[k] = Row::load(first);
+            }
             first = shifted(first, bRow);
         }
     };
@@ -187,12 +224,14 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
     if constexpr (given.singleB) {
         loadB(walkB.object());
     }
+    constexpr bool spreads = Rows == 1 && !given.singleB && given.a == Moves::Along && Row::isWide;
     const auto multiplyNext = [&]<int whole>() __attribute__((always_inline)) {
         if constexpr (!given.singleB) {
             loadB(walkB.object());
             walkB.next();
         }
-        const StridedObject<const T> a = {walkA.object(), aRow, aElement};
+        const std::conditional_t<spreads, TouchingObject<const T>, StridedObject<const T>> a(
+            StridedObject<const T>{walkA.object(), aRow, aElement});
         const TouchingObject<T> dst({walkDst.object(), dstRow, size});
         if constexpr (given.addend) {
             multiplyRows<Rows, whole>(a, b, dst, TouchingObject<const T>({walkAddend.object(), addendRow, size}));
@@ -230,10 +269,10 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
     for (int i = 0; i < 4; i += 2) {
         const Lanes<float, 8> rows = joined(Lanes<float, 4>::load(a), Lanes<float, 4>::load(shifted(a, aRow)));
         Lanes<float, 8> sum = {};
-        sum = sum + chosenInHalves<0, 0, 0, 0>(rows) * b[0];
-        sum = sum + chosenInHalves<1, 1, 1, 1>(rows) * b[1];
-        sum = sum + chosenInHalves<2, 2, 2, 2>(rows) * b[2];
-        sum = sum + chosenInHalves<3, 3, 3, 3>(rows) * b[3];
+        sum = sum + spreadInHalves<0>(rows) * b[0];
+        sum = sum + spreadInHalves<1>(rows) * b[1];
+        sum = sum + spreadInHalves<2>(rows) * b[2];
+        sum = sum + spreadInHalves<3>(rows) * b[3];
         lowHalf(sum).store(dst);
         highHalf(sum).store(shifted(dst, dstRow));
         a = shifted(a, 2 * aRow);
@@ -325,18 +364,18 @@ void multiplyPairsOfOrder3(const MatrixProduct<float> &shared, std::ptrdiff_t co
 #pragma GCC unroll 2
         for (int i = 0; i < 2; ++i) {
             Lanes<float, 8> sum = {};
-            sum = sum + chosenInHalves<0, 0, 0, 0>(a[i]) * b[0];
-            sum = sum + chosenInHalves<1, 1, 1, 1>(a[i]) * b[1];
-            sum = sum + chosenInHalves<2, 2, 2, 2>(a[i]) * b[2];
+            sum = sum + spreadInHalves<0>(a[i]) * b[0];
+            sum = sum + spreadInHalves<1>(a[i]) * b[1];
+            sum = sum + spreadInHalves<2>(a[i]) * b[2];
             store(first, lowHalf(sum), false);
             store(second, highHalf(sum), false);
             first = shifted(first, dstRow);
             second = shifted(second, dstRow);
         }
         Lanes<float, 8> sum = {};
-        sum = sum + chosenInHalves<1, 1, 1, 1>(a[2]) * b[0];
-        sum = sum + chosenInHalves<2, 2, 2, 2>(a[2]) * b[1];
-        sum = sum + chosenInHalves<3, 3, 3, 3>(a[2]) * b[2];
+        sum = sum + spreadInHalves<1>(a[2]) * b[0];
+        sum = sum + spreadInHalves<2>(a[2]) * b[1];
+        sum = sum + spreadInHalves<3>(a[2]) * b[2];
         store(first, lowHalf(sum), true);
         store(second, highHalf(sum), true);
     }

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-// Arrays of short vectors times one matrix, in single precision: rows that would not fill a register go several at a
-// time.
+// Arrays of short vectors times one matrix, or each times its own, in single precision: rows that would not fill a
+// register go several at a time.
 
 #include "products/product.h"
 #include "runtime/lanes.h"
@@ -16,7 +16,7 @@
 namespace lxpm {
 
 // Vectors of three elements without gaps, one in each lane.
-class VectorsOfOrder3 {
+class PackedVectors {
 public:
     static bool accepts(const MatrixProduct<float> &p) {
         return p.rows == 1 && p.b.isSingle() && isPacked(p.a) && isPacked(p.dst) &&
@@ -82,58 +82,98 @@ private:
     }
 };
 
-// Vectors of four elements, two in a register.
-class VectorsOfOrder4 {
+// Vectors of three or four elements, two in a register, one in each half.
+template <int Order>
+class VectorPairs {
 public:
     static bool accepts(const MatrixProduct<float> &p) {
-        return p.rows == 1 && p.b.isSingle() && p.a.rowsTouch() && p.writesRows();
+        return p.rows == 1 && p.a.rowsTouch() && p.writesRows() && (p.b.isSingle() || readsRows(p.b));
     }
 
     // All vectors but the last one of an odd number; returns their number.
     static std::ptrdiff_t run(const MatrixProduct<float> &p, std::ptrdiff_t count) {
-        const bool byBytes = p.walksByBytes();
-        if (p.addend) {
-            return byBytes ? overPairs<Walking::ByBytes, true>(p, count)
-                           : overPairs<Walking::ThroughPointers, true>(p, count);
-        }
-        return byBytes ? overPairs<Walking::ByBytes, false>(p, count)
-                       : overPairs<Walking::ThroughPointers, false>(p, count);
+        return p.walksByBytes() ? chooseKernel<Walking::ByBytes>(p)(p, count)
+                                : chooseKernel<Walking::ThroughPointers>(p)(p, count);
     }
 
 private:
+    using Two = Lanes<float, 8>;
+    using Kernel = std::ptrdiff_t (*)(const MatrixProduct<float> &, std::ptrdiff_t);
+
+    static constexpr std::ptrdiff_t vectorSize = Order * sizeof(float);
+
+    // Whether the rows of each matrix can be read as they stand: rows of three elements as four, so that what is
+    // between two of them must not be far.
+    static bool readsRows(const Addresses<const float> &b) {
+        return b.movesByBytes() && b.rowsTouch() &&
+               (Order == 4 || (b.step[1] >= vectorSize && b.step[1] <= smallestPage));
+    }
+
     template <Walking walking>
-    [[gnu::always_inline]] static Lanes<float, 8> nextTwo(ObjectWalk<const float, walking> &walk) {
+    static Kernel chooseKernel(const MatrixProduct<float> &p) {
+        if (p.b.isSingle()) {
+            return p.addend ? overPairs<walking, true, true> : overPairs<walking, true, false>;
+        }
+        return p.addend ? overPairs<walking, false, true> : overPairs<walking, false, false>;
+    }
+
+    template <Walking walking>
+    [[gnu::always_inline]] static std::array<const float *, 2> nextTwo(ObjectWalk<const float, walking> &walk) {
         const float *first = walk.object();
         walk.next();
         const float *second = walk.object();
         walk.next();
-        return loadHalves(first, second);
+        return {first, second};
     }
 
-    template <Walking walking, bool hasAddend>
+    [[gnu::always_inline]] static Two load(const std::array<const float *, 2> &vectors) {
+        return joined(loadFirst<Order>(vectors[0]), loadFirst<Order>(vectors[1]));
+    }
+
+    // The rows of two matrices. A lane behind the last element does what that one does: it raises no flag of its own.
+    [[gnu::always_inline]] static std::array<Two, Order> rowsOf(const std::array<const float *, 2> &matrices,
+                                                                std::ptrdiff_t rowStep) {
+        std::array<Two, Order> rows;
+        forEachOf<Order>([&](auto k) __attribute__((always_inline)) {
+            // The last row of three elements is read with what is before it, the others with what is behind them.
+            constexpr bool readsBack = Order == 3 && k == 2;
+            const std::ptrdiff_t place = k * rowStep - (readsBack ? static_cast<std::ptrdiff_t>(sizeof(float)) : 0);
+            const Two row = loadHalves(shifted(matrices[0], place), shifted(matrices[1], place));
+            rows[k] = Order == 4 ? row : readsBack ? chosenInHalves<1, 2, 3, 3>(row) : chosenInHalves<0, 1, 2, 2>(row);
+        });
+        return rows;
+    }
+
+    template <Walking walking, bool singleB, bool hasAddend>
     static std::ptrdiff_t overPairs(const MatrixProduct<float> &p, std::ptrdiff_t count) {
-        std::array<Lanes<float, 8>, 4> b;
-        for (int k = 0; k < 4; ++k) {
-            const Lanes<float, 4> row = {*p.b.at(0, k, 0), *p.b.at(0, k, 1), *p.b.at(0, k, 2), *p.b.at(0, k, 3)};
-            b[k] = joined(row, row);
+        const std::ptrdiff_t rowStep = p.b.step[1];
+        std::array<Two, Order> b;
+        if constexpr (singleB) {
+            for (int k = 0; k < Order; ++k) {
+                const Lanes<float, 4> row = {*p.b.at(0, k, 0), *p.b.at(0, k, 1), *p.b.at(0, k, 2),
+                                             *p.b.at(0, k, Order - 1)};
+                b[k] = joined(row, row);
+            }
         }
-        ObjectWalk<const float, walking> a(p.a);
-        ObjectWalk<const float, walking> addend(p.addend ? *p.addend : p.a);
+        ObjectWalk<const float, walking> walkA(p.a);
+        ObjectWalk<const float, walking> walkB(p.b);
+        ObjectWalk<const float, walking> walkAddend(p.addend ? *p.addend : p.a);
         ObjectWalk<float, walking> dst(p.dst);
         std::ptrdiff_t object = 0;
         for (; object + 2 <= count; object += 2) {
-            const Lanes<float, 8> vectors = nextTwo(a);
-            Lanes<float, 8> sum = {};
-            sum = sum + chosenInHalves<0, 0, 0, 0>(vectors) * b[0];
-            sum = sum + chosenInHalves<1, 1, 1, 1>(vectors) * b[1];
-            sum = sum + chosenInHalves<2, 2, 2, 2>(vectors) * b[2];
-            sum = sum + chosenInHalves<3, 3, 3, 3>(vectors) * b[3];
-            if constexpr (hasAddend) {
-                sum = sum + nextTwo(addend);
+            if constexpr (!singleB) {
+                b = rowsOf(nextTwo(walkB), rowStep);
             }
-            lowHalf(sum).store(dst.object());
+            const Two vectors = load(nextTwo(walkA));
+            Two sum = {};
+            forEachOf<Order>([&](auto k)
+                                 __attribute__((always_inline)) { sum = sum + spreadInHalves<k>(vectors) * b[k]; });
+            if constexpr (hasAddend) {
+                sum = sum + load(nextTwo(walkAddend));
+            }
+            storeFirst<Order>(dst.object(), lowHalf(sum));
             dst.next();
-            highHalf(sum).store(dst.object());
+            storeFirst<Order>(dst.object(), highHalf(sum));
             dst.next();
         }
         return object;
@@ -146,9 +186,18 @@ struct VectorsOf {
     static bool accepts(const MatrixProduct<T> &) { return false; }
     static std::ptrdiff_t run(const MatrixProduct<T> &, std::ptrdiff_t) { return 0; }
 };
+
 template <>
-struct VectorsOf<float, 3> : VectorsOfOrder3 {};
+struct VectorsOf<float, 3> {
+    static bool accepts(const MatrixProduct<float> &p) {
+        return PackedVectors::accepts(p) || VectorPairs<3>::accepts(p);
+    }
+    static std::ptrdiff_t run(const MatrixProduct<float> &p, std::ptrdiff_t count) {
+        return PackedVectors::accepts(p) ? PackedVectors::run(p, count) : VectorPairs<3>::run(p, count);
+    }
+};
+
 template <>
-struct VectorsOf<float, 4> : VectorsOfOrder4 {};
+struct VectorsOf<float, 4> : VectorPairs<4> {};
 
 } // namespace lxpm
