@@ -56,6 +56,9 @@ public:
         }
     }
 
+    // Whether objects are copied a few at a time; a single one has been copied already.
+    bool copies() const { return copies_; }
+
     Addresses<const T> objects(std::ptrdiff_t first, std::ptrdiff_t count) {
         if (!copies_) {
             return operand_.from(first);
