@@ -60,7 +60,8 @@ private:
     static constexpr std::ptrdiff_t size = sizeof(T);
     static constexpr std::ptrdiff_t side = 4;            // columns of a block
     static constexpr std::ptrdiff_t rows = groupSize<T>; // of a block
-    static constexpr std::ptrdiff_t line = 64 / size;    // elements of a cache line
+    static constexpr std::ptrdiff_t lineBytes = 64;      // of a cache line
+    static constexpr std::ptrdiff_t line = lineBytes / size;
     static constexpr std::ptrdiff_t tileRows = 1024;
     static constexpr std::ptrdiff_t tileColumns = 256;
     static constexpr std::ptrdiff_t bandRows = 32;
@@ -238,19 +239,20 @@ private:
 
     // The first element of the cache line in which an element of a row stands.
     static std::ptrdiff_t startOfLine(const T *row, std::ptrdiff_t element) {
-        return element - static_cast<std::ptrdiff_t>(reinterpret_cast<std::uintptr_t>(row + element) % 64) / size;
+        return element -
+               static_cast<std::ptrdiff_t>(reinterpret_cast<std::uintptr_t>(row + element) % lineBytes) / size;
     }
 
     static void band(const Pair &pair, std::ptrdiff_t height, Piece ofRows, Piece ofColumns) {
         const std::ptrdiff_t end = ofRows.first + ofRows.length;
-        const bool startAlike = pair.dstStep % 64 == 0; // in their lines, all rows of the destination
+        const bool startAlike = pair.dstStep % lineBytes == 0; // in their lines, all rows of the destination
         const std::ptrdiff_t begin = std::max<std::ptrdiff_t>(
             startAlike ? startOfLine(pair.to(ofColumns.first, 0), ofRows.first) : ofRows.first - line, 0);
 
         const bool isAligned = (reinterpret_cast<std::uintptr_t>(pair.dst) | pair.dstStep) % size == 0;
         const bool areWholeLines = isAligned && ofRows.first > 0 && end < height;
 
-        alignas(64) T turned[line][bandRows + line];
+        alignas(lineBytes) T turned[line][bandRows + line];
         constexpr std::ptrdiff_t turnedStep = sizeof(turned[0]);
         Fetch next(pair.from(end, ofColumns.first), pair.srcStep, std::min(bandRows, height - end), ofColumns.length);
         forEachPiece(ofColumns.length, line, side, [&](Piece strip) {
