@@ -89,6 +89,14 @@ template <int columns, bool>
     return rows;
 }
 
+// The same row as many times as it takes.
+template <int columns, class T>
+[[gnu::always_inline]] inline GroupColumns<T> loadSameRows(const T *row) {
+    std::array<const T *, fullLanes<T>> rows;
+    rows.fill(row);
+    return loadRows<columns, false>(rows);
+}
+
 // Columns from what loadRows has loaded.
 template <int columns>
 [[gnu::always_inline]] inline GroupColumns<float> turned(GroupColumns<float> group) {
@@ -129,7 +137,17 @@ public:
     // The next elements of each column, as rows of each register.
     template <int elements>
     [[gnu::always_inline]] std::array<GroupColumns<T>, registers> next() {
-        std::array<GroupColumns<T>, registers> rows;
+        std::array<GroupColumns<T>, registers> rows = load<elements>();
+        for (GroupColumns<T> &ofRegister : rows) {
+            ofRegister = turned<elements>(ofRegister);
+        }
+        return rows;
+    }
+
+    // The same as they stand in memory.
+    template <int elements>
+    [[gnu::always_inline]] std::array<GroupColumns<T>, registers> load() {
+        std::array<GroupColumns<T>, registers> columns;
 #pragma GCC unroll 2
         for (std::size_t r = 0; r < registers; ++r) {
             std::array<const T *, fullLanes<T>> from;
@@ -142,9 +160,9 @@ public:
                 from[4 * quad + 3] = shifted(first, thrice);
                 first += elements;
             }
-            rows[r] = turned<elements>(loadRows<elements, false>(from));
+            columns[r] = loadRows<elements, false>(from);
         }
-        return rows;
+        return columns;
     }
 
 private:
@@ -277,18 +295,13 @@ public:
     // As the rows of objects that this vector is multiplied with are loaded.
     template <int columns>
     [[gnu::always_inline]] GroupColumns<T> load(std::ptrdiff_t, std::ptrdiff_t column) const {
-        return objects<columns>(first + column, std::make_integer_sequence<int, groupSize<T>>());
+        return loadSameRows<columns>(first + column);
     }
 
 private:
     template <int... column>
     [[gnu::always_inline]] static GroupColumns<T> splats(const T *from, std::integer_sequence<int, column...>) {
         return {broadcast(from + column)...};
-    }
-
-    template <int columns, int... object>
-    [[gnu::always_inline]] static GroupColumns<T> objects(const T *from, std::integer_sequence<int, object...>) {
-        return loadRows<columns, false>({((void)object, from)...});
     }
 
     const T *first;

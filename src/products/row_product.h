@@ -108,36 +108,71 @@ private:
         // Four elements of each column at a time.
         template <std::size_t registers>
         [[gnu::always_inline]] void turned(std::array<L, registers> &sums, const T *first, std::ptrdiff_t last) const {
-            TouchingColumns<T, registers> columns(first, bStep, last);
+            const TouchingColumns<T, registers> columns(first, bStep, last);
+            aStep == sizeof(T) ? overElements<true>(sums, columns) : overElements<false>(sums, columns);
+        }
+
+        // Touching: the elements of a touch.
+        template <bool touching, std::size_t registers>
+        [[gnu::always_inline]] void overElements(std::array<L, registers> &sums,
+                                                 TouchingColumns<T, registers> columns) const {
             const T *element = a;
             std::ptrdiff_t left = inner;
             for (; left >= 4; left -= 4) {
-                addTurned<4>(sums, columns, element);
+                addTurned<4, touching>(sums, columns, element);
                 element = shifted(element, 4 * aStep);
             }
             switch (left) {
             case 3:
-                return addTurned<3>(sums, columns, element);
+                return addTurned<3, touching>(sums, columns, element);
             case 2:
-                return addTurned<2>(sums, columns, element);
+                return addTurned<2, touching>(sums, columns, element);
             case 1:
-                return addTurned<1>(sums, columns, element);
+                return addTurned<1, touching>(sums, columns, element);
             default:
                 return;
             }
         }
 
-        template <int elements, std::size_t registers>
+        template <int elements, bool touching, std::size_t registers>
         [[gnu::always_inline]] void addTurned(std::array<L, registers> &sums, TouchingColumns<T, registers> &columns,
                                               const T *element) const {
-            const auto rows = columns.template next<elements>();
+            auto terms = columns.template load<elements>();
+            GroupColumns<T> factors;
+            if constexpr (touching) {
+                factors = loadSameRows<elements>(element);
+            }
+#pragma GCC unroll 2
+            for (std::size_t r = 0; r < registers; ++r) {
+                if constexpr (touching) {
+                    multiply<4>(terms[r], factors);
+                }
+                terms[r] = lxpm::turned<elements>(terms[r]);
+            }
+            if constexpr (!touching) {
+#pragma GCC unroll 4
+                for (int i = 0; i < elements; ++i) {
+                    factors[i] = broadcast(shifted(element, i * aStep));
+                }
+#pragma GCC unroll 2
+                for (std::size_t r = 0; r < registers; ++r) {
+                    multiply<elements>(terms[r], factors);
+                }
+            }
 #pragma GCC unroll 4
             for (int i = 0; i < elements; ++i) {
-                const L factor = broadcast(shifted(element, i * aStep));
-#pragma GCC unroll 4
+#pragma GCC unroll 2
                 for (std::size_t r = 0; r < registers; ++r) {
-                    sums[r] = sums[r] + factor * rows[r][i];
+                    sums[r] = sums[r] + terms[r][i];
                 }
+            }
+        }
+
+        template <int count>
+        [[gnu::always_inline]] static void multiply(GroupColumns<T> &terms, const GroupColumns<T> &factors) {
+#pragma GCC unroll 4
+            for (int i = 0; i < count; ++i) {
+                terms[i] = terms[i] * factors[i];
             }
         }
     };
