@@ -17,6 +17,7 @@
 #include <array>
 #include <cstddef>
 #include <numeric>
+#include <type_traits>
 #include <utility>
 
 namespace lxpm {
@@ -191,7 +192,7 @@ private:
     template <Walking walking>
     static std::ptrdiff_t chooseApart(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         if constexpr (Order == 3) {
-            if (p.b.step[2] >= vectorSize && p.b.step[2] <= smallestPage) {
+            if (mayReadOn(p.b.step[2], vectorSize)) {
                 return overApart<walking, true>(p, count);
             }
         }
@@ -199,8 +200,9 @@ private:
     }
 
     // Columns of three elements that stand close behind one another: four are loaded of the first two, so that nothing
-    // but the space between columns is read with them.
+    // but the space between columns is read with them. ReadsOn: there are four elements of each row that may be read.
 
+    template <bool readsOn>
     [[gnu::always_inline]] static L sumsOfThree(const std::array<const float *, 2> &rows,
                                                 const std::array<const float *, 2> &matrices,
                                                 std::ptrdiff_t columnStep) {
@@ -213,7 +215,8 @@ private:
         const L third = column(2 * columnStep - static_cast<std::ptrdiff_t>(sizeof(T))); // with what is before it
         const L low = {_mm256_unpacklo_ps(first.vector, second.vector)};                 // 00 10 01 11
         const L high = {_mm256_unpackhi_ps(first.vector, second.vector)};                // 02 12
-        const L factors = joined(loadFirst<3>(rows[0]), loadFirst<3>(rows[1]));
+        constexpr int loaded = readsOn ? 4 : 3;
+        const L factors = joined(loadFirst<loaded>(rows[0]), loadFirst<loaded>(rows[1]));
         L sums = {};
         sums = sums + shuffled<0, 1, 1, 1>(low, third) * spreadInHalves<0>(factors);
         sums = sums + shuffled<2, 3, 2, 2>(low, third) * spreadInHalves<1>(factors);
@@ -221,6 +224,7 @@ private:
         return sums;
     }
 
+    template <bool>
     [[gnu::always_inline]] static L sumsOfThree(const std::array<const double *, 1> &rows,
                                                 const std::array<const double *, 1> &matrices,
                                                 std::ptrdiff_t columnStep) {
@@ -238,14 +242,14 @@ private:
         return sums;
     }
 
-    template <Walking walking, bool readsOn>
+    // Close: three columns that sumsOfThree() can read.
+    template <Walking walking, bool close>
     static std::ptrdiff_t overApart(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         const std::ptrdiff_t columnStep = p.b.step[2];
         ObjectWalk<const T, walking> a(p.a);
         ObjectWalk<const T, walking> b(p.b);
         ObjectWalk<T, walking> dst(p.dst);
-        std::ptrdiff_t object = 0;
-        for (; object + Apart::objects <= count; object += Apart::objects) {
+        const auto multiplyNext = [&]<bool readsOn>(std::bool_constant<readsOn>) __attribute__((always_inline)) {
             std::array<const T *, Apart::objects> rows;
             std::array<const T *, Apart::objects> matrices;
             std::array<T *, Apart::objects> results;
@@ -259,8 +263,8 @@ private:
             }
             std::array<L, Apart::groups> sums;
             forEachOf<Apart::groups>([&](auto group) __attribute__((always_inline)) {
-                if constexpr (readsOn) {
-                    sums[group] = sumsOfThree(rows, matrices, columnStep);
+                if constexpr (close) {
+                    sums[group] = sumsOfThree<readsOn>(rows, matrices, columnStep);
                 } else {
                     sums[group] = sumsOf(ApartAt<group * lanes>{rows, matrices, columnStep});
                 }
@@ -273,6 +277,16 @@ private:
                     storeFirstOf<std::min(lanes, Order - group * lanes)>(results[0] + group * lanes, sums[group]);
                 });
             }
+        };
+        std::ptrdiff_t object = 0;
+        if constexpr (close && lanes == 8 && walking == Walking::ByBytes) {
+            const bool readsOn = !p.a.isSingle() && mayReadOn(p.a);
+            for (; readsOn && object + Apart::objects < count; object += Apart::objects) {
+                multiplyNext(std::true_type());
+            }
+        }
+        for (; object + Apart::objects <= count; object += Apart::objects) {
+            multiplyNext(std::false_type());
         }
         return object;
     }

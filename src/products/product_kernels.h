@@ -8,12 +8,12 @@
 #include "products/group_product.h"
 #include "products/panel_product.h"
 #include "products/product.h"
+#include "products/readers.h"
 #include "products/row_product.h"
 #include "products/staging.h"
 #include "products/unrolled_product.h"
 #include "products/vector_product.h"
 #include "runtime/parallel.h"
-#include "runtime/vector_groups.h"
 #include "runtime/with_order.h"
 
 #include <algorithm>
@@ -36,8 +36,7 @@ void multiplyRowVectors(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         }
     }
     if constexpr (a == Moves::Along && ElementRow<T, Order>::mayReadOn) {
-        const bool areClose = p.b.step[1] >= bytesOfRow<T, Order> && p.b.step[1] <= smallestPage;
-        if (!singleB && !p.addend && areClose) {
+        if (!singleB && !p.addend && mayReadOn(p.b.step[1], bytesOfRow<T, Order>)) {
             return multiplyUnrolled<walking, T, Order, 1, Given{a, false, false, false, true}>(p, count);
         }
     }

@@ -46,6 +46,12 @@ inline bool mayReadOn(const Addresses<const T> &source) {
     return source.pointerStep[0] == 0 && source.step[0] <= smallestPage;
 }
 
+// Whether a row that another one follows may be read on behind its end: the rows stand one behind the other, so close
+// that no page that might not be there stands between them. So may the last row be read from before its start.
+inline bool mayReadOn(std::ptrdiff_t rowStep, std::ptrdiff_t rowSize) {
+    return rowStep >= rowSize && rowStep <= smallestPage;
+}
+
 // Columns of a group, as many as are asked for, or what is to become columns.
 template <class T>
 using GroupColumns = std::array<Group<T>, 4>;

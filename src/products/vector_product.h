@@ -6,12 +6,14 @@
 // register go several at a time.
 
 #include "products/product.h"
+#include "products/readers.h"
 #include "runtime/lanes.h"
 #include "runtime/object_walk.h"
 #include "runtime/vector_groups.h"
 
 #include <array>
 #include <cstddef>
+#include <type_traits>
 
 namespace lxpm {
 
@@ -105,8 +107,7 @@ private:
     // Whether the rows of each matrix can be read as they stand: rows of three elements as four, so that what is
     // between two of them must not be far.
     static bool readsRows(const Addresses<const float> &b) {
-        return b.movesByBytes() && b.rowsTouch() &&
-               (Order == 4 || (b.step[1] >= vectorSize && b.step[1] <= smallestPage));
+        return b.movesByBytes() && b.rowsTouch() && (Order == 4 || mayReadOn(b.step[1], vectorSize));
     }
 
     template <Walking walking>
@@ -126,8 +127,11 @@ private:
         return {first, second};
     }
 
+    // ReadsOn: there are four elements that may be read.
+    template <bool readsOn>
     [[gnu::always_inline]] static Two load(const std::array<const float *, 2> &vectors) {
-        return joined(loadFirst<Order>(vectors[0]), loadFirst<Order>(vectors[1]));
+        constexpr int loaded = readsOn ? 4 : Order;
+        return joined(loadFirst<loaded>(vectors[0]), loadFirst<loaded>(vectors[1]));
     }
 
     // The rows of two matrices. A lane behind the last element does what that one does: it raises no flag of its own.
@@ -159,22 +163,31 @@ private:
         ObjectWalk<const float, walking> walkB(p.b);
         ObjectWalk<const float, walking> walkAddend(p.addend ? *p.addend : p.a);
         ObjectWalk<float, walking> dst(p.dst);
-        std::ptrdiff_t object = 0;
-        for (; object + 2 <= count; object += 2) {
+        const auto multiplyNextTwo = [&]<bool readsOn>(std::bool_constant<readsOn>) __attribute__((always_inline)) {
             if constexpr (!singleB) {
                 b = rowsOf(nextTwo(walkB), rowStep);
             }
-            const Two vectors = load(nextTwo(walkA));
+            const Two vectors = load<readsOn>(nextTwo(walkA));
             Two sum = {};
             forEachOf<Order>([&](auto k)
                                  __attribute__((always_inline)) { sum = sum + spreadInHalves<k>(vectors) * b[k]; });
             if constexpr (hasAddend) {
-                sum = sum + load(nextTwo(walkAddend));
+                sum = sum + load<false>(nextTwo(walkAddend));
             }
             storeFirst<Order>(dst.object(), lowHalf(sum));
             dst.next();
             storeFirst<Order>(dst.object(), highHalf(sum));
             dst.next();
+        };
+        std::ptrdiff_t object = 0;
+        if constexpr (Order == 3 && walking == Walking::ByBytes) {
+            const bool readsOn = !p.a.isSingle() && mayReadOn(p.a);
+            for (; readsOn && object + 2 < count; object += 2) {
+                multiplyNextTwo(std::true_type());
+            }
+        }
+        for (; object + 2 <= count; object += 2) {
+            multiplyNextTwo(std::false_type());
         }
         return object;
     }

@@ -184,19 +184,20 @@ TEST(Products, OfTheLeastSizesAreErrors) {
     EXPECT_EQ(lxpmAdd_mm_32f(matrix, 16, 4, matrix, 16, 4, matrix, 16, 4, least, least), lxpStatusSizeErr);
 }
 
-/// Single-precision objects far apart, each at the end of a page behind which there is nothing.
+/// Objects far apart, each at the end of a page behind which there is nothing.
+template <class T = float>
 class FarApart {
 public:
     static constexpr int count = 9; // a register of lanes, and one that follows
     static constexpr int stride = 3 * 4096;
 
-    explicit FarApart(int elements) : offset_(page - elements * static_cast<int>(sizeof(float))) {
+    explicit FarApart(int elements) : offset_(page - elements * static_cast<int>(sizeof(T))) {
         EXPECT_NE(memory_, MAP_FAILED);
         for (int object = 0; object < count; ++object) {
             char *const start = memory_ + object * stride;
             EXPECT_EQ(mprotect(start, page, PROT_READ | PROT_WRITE), 0);
             for (int i = 0; i < elements; ++i) {
-                reinterpret_cast<float *>(start + offset_)[i] = float(object + i + 1);
+                reinterpret_cast<T *>(start + offset_)[i] = T(object + i + 1);
             }
         }
     }
@@ -204,7 +205,7 @@ public:
     FarApart(const FarApart &) = delete;
     FarApart &operator=(const FarApart &) = delete;
 
-    float *first() const { return reinterpret_cast<float *>(memory_ + offset_); }
+    T *first() const { return reinterpret_cast<T *>(memory_ + offset_); }
 
 private:
     static constexpr int page = 4096;
@@ -214,11 +215,89 @@ private:
     int offset_;
 };
 
+// Square matrices, each times a vector of its own.
+template <class T>
+struct OwnMatrices;
+template <>
+struct OwnMatrices<float> {
+    static constexpr auto asTheyStand = lxpmMul_mava_32f;
+    static constexpr auto transposed = lxpmMul_tava_32f;
+};
+template <>
+struct OwnMatrices<double> {
+    static constexpr auto asTheyStand = lxpmMul_mava_64f;
+    static constexpr auto transposed = lxpmMul_tava_64f;
+};
+
+// Matrices whose rows stand a distance apart, each matrix a row behind the one before. Element j of row i is i + j + 1.
+// The matrices are symmetric, so that their transposes have the same products.
+template <class T>
+void expectProductsOfRowsApart(const T *first, int rowStride, int rows, int order) {
+    SCOPED_TRACE(testing::Message() << order << "x" << order << ", rows " << rowStride << " bytes apart");
+    constexpr int size = sizeof(T);
+    const int vectorSize = size * order;
+    const int count = rows - order + 1;
+    std::vector<T> vectors(order * count);
+    std::iota(vectors.begin(), vectors.end(), T(1));
+    std::vector<T> expected(vectors.size());
+    for (int object = 0; object < count; ++object) {
+        for (int i = 0; i < order; ++i) {
+            for (int k = 0; k < order; ++k) {
+                expected[order * object + i] += T(object + i + k + 1) * vectors[order * object + k];
+            }
+        }
+    }
+    for (const auto multiply : {OwnMatrices<T>::asTheyStand, OwnMatrices<T>::transposed}) {
+        std::vector<T> dst(expected.size());
+        EXPECT_EQ(multiply(first, rowStride, rowStride, size, order, order, vectors.data(), vectorSize, size, order,
+                           dst.data(), vectorSize, size, count),
+                  lxpStatusOk);
+        EXPECT_EQ(dst, expected);
+    }
+}
+
+template <class T>
+void expectNothingIsReadBetweenRows() {
+    for (int order = 2; order <= 8; ++order) {
+        const FarApart<T> far(order);
+        expectProductsOfRowsApart(far.first(), FarApart<T>::stride, FarApart<T>::count, order);
+        // Rows that overlap, the last one at the end of a page.
+        const int rows = order + 3;
+        const FarApart<T> overlapping(rows + order - 1);
+        expectProductsOfRowsApart(overlapping.first(), sizeof(T), rows, order);
+    }
+}
+
+TEST(Products, NothingIsReadBetweenRowsThatStandFarApartNorBehindRowsThatOverlap) {
+    expectNothingIsReadBetweenRows<float>();
+    expectNothingIsReadBetweenRows<double>();
+}
+
+TEST(Products, NothingIsReadBetweenVectorsThatStandFarApart) {
+    constexpr int count = FarApart<>::count;
+    const std::vector<float> matrices(9 * count, 1.0f);
+    const FarApart<> vectors(3);
+    std::vector<float> expected;
+    for (int object = 0; object < count; ++object) {
+        expected.insert(expected.end(), 3, 3.0f * object + 6);
+    }
+    std::vector<float> dst(expected.size());
+    EXPECT_EQ(lxpmMul_mva_32f(matrices.data(), 12, 4, 3, 3, vectors.first(), FarApart<>::stride, 4, 3, dst.data(), 12,
+                              4, count),
+              lxpStatusOk);
+    EXPECT_EQ(dst, expected);
+    dst.assign(expected.size(), 0.0f);
+    EXPECT_EQ(lxpmMul_mava_32f(matrices.data(), 36, 12, 4, 3, 3, vectors.first(), FarApart<>::stride, 4, 3, dst.data(),
+                               12, 4, count),
+              lxpStatusOk);
+    EXPECT_EQ(dst, expected);
+}
+
 TEST(Reductions, NothingIsReadBetweenVectorsThatStandFarApart) {
-    constexpr int count = FarApart::count;
-    constexpr int stride = FarApart::stride;
-    const FarApart vectors(3);
-    const FarApart others(3);
+    constexpr int count = FarApart<>::count;
+    constexpr int stride = FarApart<>::stride;
+    const FarApart<> vectors(3);
+    const FarApart<> others(3);
     std::vector<float> dst(3 * count);
     EXPECT_EQ(lxpmDotProduct_vava_32f(vectors.first(), stride, 4, others.first(), stride, 4, dst.data(), 3, count),
               lxpStatusOk);
@@ -232,9 +311,9 @@ TEST(Reductions, NothingIsReadBetweenVectorsThatStandFarApart) {
 }
 
 TEST(Reductions, NothingIsReadBetweenMatricesThatStandFarApart) {
-    const FarApart matrices(7); // two rows of three, an element apart
-    std::vector<float> dst(FarApart::count);
-    EXPECT_EQ(lxpmFrobNorm_ma_32f(matrices.first(), FarApart::stride, 16, 4, 3, 2, dst.data(), FarApart::count),
+    const FarApart<> matrices(7); // two rows of three, an element apart
+    std::vector<float> dst(FarApart<>::count);
+    EXPECT_EQ(lxpmFrobNorm_ma_32f(matrices.first(), FarApart<>::stride, 16, 4, 3, 2, dst.data(), FarApart<>::count),
               lxpStatusOk);
     EXPECT_EQ(dst[0], std::sqrt(124.0f));
 }
