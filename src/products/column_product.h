@@ -10,6 +10,7 @@
 #include "products/product.h"
 #include "products/readers.h"
 #include "runtime/lanes.h"
+#include "runtime/numbers.h"
 #include "runtime/object_walk.h"
 #include "runtime/vector_groups.h"
 
@@ -201,6 +202,7 @@ private:
 
     // Columns of three elements that stand close behind one another: four are loaded of the first two, so that nothing
     // but the space between columns is read with them. ReadsOn: there are four elements of each row that may be read.
+    // The fourth lane repeats the third; opaque, since Clang would leave it to chance, and with it what it raises.
 
     template <bool readsOn>
     [[gnu::always_inline]] static L sumsOfThree(const std::array<const float *, 2> &rows,
@@ -218,9 +220,9 @@ private:
         constexpr int loaded = readsOn ? 4 : 3;
         const L factors = joined(loadFirst<loaded>(rows[0]), loadFirst<loaded>(rows[1]));
         L sums = {};
-        sums = sums + shuffled<0, 1, 1, 1>(low, third) * spreadInHalves<0>(factors);
-        sums = sums + shuffled<2, 3, 2, 2>(low, third) * spreadInHalves<1>(factors);
-        sums = sums + shuffled<0, 1, 3, 3>(high, third) * spreadInHalves<2>(factors);
+        sums = sums + opaque(shuffled<0, 1, 1, 1>(low, third)) * spreadInHalves<0>(factors);
+        sums = sums + opaque(shuffled<2, 3, 2, 2>(low, third)) * spreadInHalves<1>(factors);
+        sums = sums + opaque(shuffled<0, 1, 3, 3>(high, third)) * spreadInHalves<2>(factors);
         return sums;
     }
 
@@ -236,9 +238,9 @@ private:
         const L low = {_mm256_unpacklo_pd(first, second)};  // 00 10 | 02 12
         const L high = {_mm256_unpackhi_pd(first, second)}; // 01 11
         L sums = {};
-        sums = sums + halves<0, 2>(low, broadcast(third)) * broadcast(row);
-        sums = sums + halves<0, 2>(high, broadcast(third + 1)) * broadcast(row + 1);
-        sums = sums + halves<1, 2>(low, broadcast(third + 2)) * broadcast(row + 2);
+        sums = sums + opaque(halves<0, 2>(low, broadcast(third))) * broadcast(row);
+        sums = sums + opaque(halves<0, 2>(high, broadcast(third + 1))) * broadcast(row + 1);
+        sums = sums + opaque(halves<1, 2>(low, broadcast(third + 2))) * broadcast(row + 2);
         return sums;
     }
 

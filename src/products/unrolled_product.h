@@ -10,6 +10,7 @@
 
 #include "products/product.h"
 #include "runtime/lanes.h"
+#include "runtime/numbers.h"
 #include "runtime/object_walk.h"
 #include "runtime/one_object.h"
 
@@ -66,9 +67,9 @@ public:
     // Whether a whole register holds more lanes than are loaded, in so many pieces that it pays to read on behind them.
     static constexpr bool mayReadOn = registers == 1 && lanes == 8 && N < 8;
 
-    // The same where a whole register may be read.
+    // The same where a whole register may be read. Opaque: Clang would leave the lanes behind the last one to chance.
     static ElementRow loadReadingOn(const T *from) requires mayReadOn {
-        return ElementRow(firstLanesOf<N>(Part::load(from), Part{}));
+        return ElementRow(opaque(firstLanesOf<N>(Part::load(from), Part{})));
     }
 
     void store(T *to) const {

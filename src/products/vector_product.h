@@ -8,6 +8,7 @@
 #include "products/product.h"
 #include "products/readers.h"
 #include "runtime/lanes.h"
+#include "runtime/numbers.h"
 #include "runtime/object_walk.h"
 #include "runtime/vector_groups.h"
 
@@ -143,7 +144,11 @@ private:
             constexpr bool readsBack = Order == 3 && k == 2;
             const std::ptrdiff_t place = k * rowStep - (readsBack ? static_cast<std::ptrdiff_t>(sizeof(float)) : 0);
             const Two row = loadHalves(shifted(matrices[0], place), shifted(matrices[1], place));
-            rows[k] = Order == 4 ? row : readsBack ? chosenInHalves<1, 2, 3, 3>(row) : chosenInHalves<0, 1, 2, 2>(row);
+            if constexpr (Order == 4) {
+                rows[k] = row;
+            } else { // opaque: Clang would leave the fourth lane to chance, and with it what it raises
+                rows[k] = opaque(readsBack ? chosenInHalves<1, 2, 3, 3>(row) : chosenInHalves<0, 1, 2, 2>(row));
+            }
         });
         return rows;
     }
