@@ -12,6 +12,7 @@
 #include "runtime/lanes.h"
 #include "runtime/numbers.h"
 #include "runtime/object_walk.h"
+#include "runtime/parallel.h"
 #include "runtime/vector_groups.h"
 
 #include <algorithm>
@@ -87,13 +88,9 @@ private:
             }
             (std::make_integer_sequence<int, lanes>());
         };
-        GroupColumns<T> terms = load([&](auto i) { return at.column(i); });
-        const GroupColumns<T> factors = load([&](auto i) { return at.row(i); });
-#pragma GCC unroll 4
-        for (int i = 0; i < 4; ++i) {
-            terms[i] = terms[i] * factors[i];
-        }
-        terms = turned<loaded>(terms);
+        const GroupColumns<T> columns = load([&](auto i) { return at.column(i); });
+        const GroupColumns<T> rows = load([&](auto i) { return at.row(i); });
+        const GroupColumns<T> terms = turned<loaded>(multiplied<4>(columns, rows));
 #pragma GCC unroll 4
         for (int i = first; i < loaded; ++i) {
             sums = sums + terms[i];
@@ -209,14 +206,9 @@ private:
                                                 const std::array<const float *, 2> &matrices,
                                                 std::ptrdiff_t columnStep) {
         using detail::shuffled;
-        const auto column = [&](std::ptrdiff_t bytes) __attribute__((always_inline)) {
-            return loadHalves(shifted(matrices[0], bytes), shifted(matrices[1], bytes));
-        };
-        const L first = column(0);
-        const L second = column(columnStep);
-        const L third = column(2 * columnStep - static_cast<std::ptrdiff_t>(sizeof(T))); // with what is before it
-        const L low = {_mm256_unpacklo_ps(first.vector, second.vector)};                 // 00 10 01 11
-        const L high = {_mm256_unpackhi_ps(first.vector, second.vector)};                // 02 12
+        const auto [first, second, third] = loadRowsOfThree(matrices, columnStep);
+        const L low = {_mm256_unpacklo_ps(first.vector, second.vector)};  // 00 10 01 11
+        const L high = {_mm256_unpackhi_ps(first.vector, second.vector)}; // 02 12
         constexpr int loaded = readsOn ? 4 : 3;
         const L factors = joined(loadFirst<loaded>(rows[0]), loadFirst<loaded>(rows[1]));
         L sums = {};
@@ -252,17 +244,9 @@ private:
         ObjectWalk<const T, walking> b(p.b);
         ObjectWalk<T, walking> dst(p.dst);
         const auto multiplyNext = [&]<bool readsOn>(std::bool_constant<readsOn>) __attribute__((always_inline)) {
-            std::array<const T *, Apart::objects> rows;
-            std::array<const T *, Apart::objects> matrices;
-            std::array<T *, Apart::objects> results;
-            for (int i = 0; i < Apart::objects; ++i) {
-                rows[i] = a.object();
-                matrices[i] = b.object();
-                results[i] = dst.object();
-                a.next();
-                b.next();
-                dst.next();
-            }
+            const auto rows = nextObjects<Apart::objects>(a);
+            const auto matrices = nextObjects<Apart::objects>(b);
+            const auto results = nextObjects<Apart::objects>(dst);
             std::array<L, Apart::groups> sums;
             forEachOf<Apart::groups>([&](auto group) __attribute__((always_inline)) {
                 if constexpr (close) {

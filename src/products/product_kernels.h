@@ -113,8 +113,7 @@ template <class T, int Order>
     StagedSource<T, capacity> addend(p.addend.value_or(p.b), p.addend && (copiesAll || !p.addend->rowsTouch()), p.rows,
                                      Order);
     StagedDestination<T, capacity> dst(p.dst, copiesAll || !p.dst.rowsTouch(), p.rows, Order);
-    const bool copiesObjects = a.copies() || b.copies() || addend.copies() || dst.copies();
-    const std::ptrdiff_t piece = copiesObjects ? capacity / area : count;
+    const std::ptrdiff_t piece = copiesArray ? capacity / area : count;
     for (std::ptrdiff_t first = 0; first < count; first += piece) {
         const std::ptrdiff_t objects = std::min(piece, count - first);
         MatrixProduct<T> dense = {p.rows,

@@ -17,6 +17,7 @@
 
 #include "runtime/addresses.h"
 #include "runtime/lanes.h"
+#include "runtime/numbers.h"
 #include "runtime/vector_groups.h"
 
 #include <array>
@@ -101,6 +102,34 @@ template <int columns, class T>
     std::array<const T *, fullLanes<T>> rows;
     rows.fill(row);
     return loadRows<columns, false>(rows);
+}
+
+// Each of some columns, or of what is to become columns, times its factor.
+template <int count, class T>
+[[gnu::always_inline]] inline GroupColumns<T> multiplied(GroupColumns<T> columns, const GroupColumns<T> &factors) {
+#pragma GCC unroll 4
+    for (int i = 0; i < count; ++i) {
+        columns[i] = columns[i] * factors[i];
+    }
+    return columns;
+}
+
+// The rows of two 3x3 matrices side by side, four elements of each: the last row comes with the element in front of it,
+// the others with the one behind them, so that nothing behind the matrices is read.
+[[gnu::always_inline]] inline std::array<Lanes<float, 8>, 3>
+loadRowsOfThree(const std::array<const float *, 2> &matrices, std::ptrdiff_t rowStep) {
+    const auto row = [&](std::ptrdiff_t bytes) __attribute__((always_inline)) {
+        return loadHalves(shifted(matrices[0], bytes), shifted(matrices[1], bytes));
+    };
+    return {row(0), row(rowStep), row(2 * rowStep - static_cast<std::ptrdiff_t>(sizeof(float)))};
+}
+
+// The same rows without their neighbours: the fourth lane does what the third does, so that it raises no flag of its
+// own. Opaque: Clang would leave it to chance, and with it what it raises.
+[[gnu::always_inline]] inline std::array<Lanes<float, 8>, 3>
+rowsOfThreeAlone(const std::array<Lanes<float, 8>, 3> &rows) {
+    return {opaque(chosenInHalves<0, 1, 2, 2>(rows[0])), opaque(chosenInHalves<0, 1, 2, 2>(rows[1])),
+            opaque(chosenInHalves<1, 2, 3, 3>(rows[2]))};
 }
 
 // Columns from what loadRows has loaded.

@@ -145,7 +145,7 @@ private:
 #pragma GCC unroll 2
             for (std::size_t r = 0; r < registers; ++r) {
                 if constexpr (touching) {
-                    multiply<4>(terms[r], factors);
+                    terms[r] = multiplied<4>(terms[r], factors);
                 }
                 terms[r] = lxpm::turned<elements>(terms[r]);
             }
@@ -156,7 +156,7 @@ private:
                 }
 #pragma GCC unroll 2
                 for (std::size_t r = 0; r < registers; ++r) {
-                    multiply<elements>(terms[r], factors);
+                    terms[r] = multiplied<elements>(terms[r], factors);
                 }
             }
 #pragma GCC unroll 4
@@ -165,14 +165,6 @@ private:
                 for (std::size_t r = 0; r < registers; ++r) {
                     sums[r] = sums[r] + terms[r][i];
                 }
-            }
-        }
-
-        template <int count>
-        [[gnu::always_inline]] static void multiply(GroupColumns<T> &terms, const GroupColumns<T> &factors) {
-#pragma GCC unroll 4
-            for (int i = 0; i < count; ++i) {
-                terms[i] = terms[i] * factors[i];
             }
         }
     };

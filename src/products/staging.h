@@ -56,9 +56,6 @@ public:
         }
     }
 
-    // Whether objects are copied a few at a time; a single one has been copied already.
-    bool copies() const { return copies_; }
-
     Addresses<const T> objects(std::ptrdiff_t first, std::ptrdiff_t count) {
         if (!copies_) {
             return operand_.from(first);
@@ -88,8 +85,6 @@ class StagedDestination {
 public:
     StagedDestination(const Addresses<T> &operand, bool copies, std::ptrdiff_t rows, std::ptrdiff_t columns)
         : operand_(operand), copies_(copies), rows_(rows), columns_(columns) {}
-
-    bool copies() const { return copies_; }
 
     Addresses<T> objects(std::ptrdiff_t first) {
         if (!copies_) {

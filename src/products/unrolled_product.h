@@ -9,6 +9,7 @@
 // All of them are walked from row to row: products of row numbers with steps would need more registers than there are.
 
 #include "products/product.h"
+#include "products/readers.h"
 #include "runtime/lanes.h"
 #include "runtime/numbers.h"
 #include "runtime/object_walk.h"
@@ -305,26 +306,12 @@ void multiplyOrder4(const MatrixProduct<float> &shared, std::ptrdiff_t count) {
     }
 }
 
-// A 3x3 matrix without gaps as three registers of four, without a look behind its end: the last row comes with the
-// element in front of it.
-struct Order3 {
-    static constexpr int row1 = 3;
-    static constexpr int row2 = 5;
-
-    // The rows of two matrices, side by side.
-    [[gnu::always_inline]] static std::array<Lanes<float, 8>, 3> load(const float *first, const float *second) {
-        const auto pair = [=](int at) __attribute__((always_inline)) {
-            return joined(Lanes<float, 4>::load(first + at), Lanes<float, 4>::load(second + at));
-        };
-        return {pair(0), pair(row1), pair(row2)};
-    }
-};
-
 // The rows of two objects side by side. The first operand and, unless it is single, the second have no gaps; an object
 // that is left over is the caller's.
 template <Walking walking, bool singleB, bool denseRows>
 void multiplyPairsOfOrder3(const MatrixProduct<float> &shared, std::ptrdiff_t count) {
     const MatrixProduct<float> p = shared;
+    constexpr std::ptrdiff_t rowSize = 3 * sizeof(float);
     const std::ptrdiff_t dstRow = p.dst.step[1];
     std::array<Lanes<float, 8>, 3> b;
     if constexpr (singleB) {
@@ -345,23 +332,10 @@ void multiplyPairsOfOrder3(const MatrixProduct<float> &shared, std::ptrdiff_t co
     ObjectWalk<float, walking> walkDst(p.dst);
     for (std::ptrdiff_t object = 0; object + 2 <= count; object += 2) {
         if constexpr (!singleB) {
-            // The fourth lane does what the third does: it can raise no flag of its own.
-            const float *ofFirst = walkB.object();
-            walkB.next();
-            b = Order3::load(ofFirst, walkB.object());
-            walkB.next();
-            b[0] = chosenInHalves<0, 1, 2, 2>(b[0]);
-            b[1] = chosenInHalves<0, 1, 2, 2>(b[1]);
-            b[2] = chosenInHalves<1, 2, 3, 3>(b[2]);
+            b = rowsOfThreeAlone(loadRowsOfThree(nextObjects<2>(walkB), rowSize));
         }
-        const float *ofFirst = walkA.object();
-        walkA.next();
-        const std::array<Lanes<float, 8>, 3> a = Order3::load(ofFirst, walkA.object());
-        walkA.next();
-        float *first = walkDst.object();
-        walkDst.next();
-        float *second = walkDst.object();
-        walkDst.next();
+        const std::array<Lanes<float, 8>, 3> a = loadRowsOfThree(nextObjects<2>(walkA), rowSize);
+        auto [first, second] = nextObjects<2>(walkDst);
 #pragma GCC unroll 2
         for (int i = 0; i < 2; ++i) {
             Lanes<float, 8> sum = {};

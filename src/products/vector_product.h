@@ -8,7 +8,6 @@
 #include "products/product.h"
 #include "products/readers.h"
 #include "runtime/lanes.h"
-#include "runtime/numbers.h"
 #include "runtime/object_walk.h"
 #include "runtime/vector_groups.h"
 
@@ -119,15 +118,6 @@ private:
         return p.addend ? overPairs<walking, false, true> : overPairs<walking, false, false>;
     }
 
-    template <Walking walking>
-    [[gnu::always_inline]] static std::array<const float *, 2> nextTwo(ObjectWalk<const float, walking> &walk) {
-        const float *first = walk.object();
-        walk.next();
-        const float *second = walk.object();
-        walk.next();
-        return {first, second};
-    }
-
     // ReadsOn: there are four elements that may be read.
     template <bool readsOn>
     [[gnu::always_inline]] static Two load(const std::array<const float *, 2> &vectors) {
@@ -135,22 +125,19 @@ private:
         return joined(loadFirst<loaded>(vectors[0]), loadFirst<loaded>(vectors[1]));
     }
 
-    // The rows of two matrices. A lane behind the last element does what that one does: it raises no flag of its own.
+    // The rows of two matrices.
     [[gnu::always_inline]] static std::array<Two, Order> rowsOf(const std::array<const float *, 2> &matrices,
                                                                 std::ptrdiff_t rowStep) {
-        std::array<Two, Order> rows;
-        forEachOf<Order>([&](auto k) __attribute__((always_inline)) {
-            // The last row of three elements is read with what is before it, the others with what is behind them.
-            constexpr bool readsBack = Order == 3 && k == 2;
-            const std::ptrdiff_t place = k * rowStep - (readsBack ? static_cast<std::ptrdiff_t>(sizeof(float)) : 0);
-            const Two row = loadHalves(shifted(matrices[0], place), shifted(matrices[1], place));
-            if constexpr (Order == 4) {
-                rows[k] = row;
-            } else { // opaque: Clang would leave the fourth lane to chance, and with it what it raises
-                rows[k] = opaque(readsBack ? chosenInHalves<1, 2, 3, 3>(row) : chosenInHalves<0, 1, 2, 2>(row));
+        if constexpr (Order == 3) {
+            return rowsOfThreeAlone(loadRowsOfThree(matrices, rowStep));
+        } else {
+            std::array<Two, Order> rows;
+#pragma GCC unroll 4
+            for (int k = 0; k < Order; ++k) {
+                rows[k] = loadHalves(shifted(matrices[0], k * rowStep), shifted(matrices[1], k * rowStep));
             }
-        });
-        return rows;
+            return rows;
+        }
     }
 
     template <Walking walking, bool singleB, bool hasAddend>
@@ -170,14 +157,14 @@ private:
         ObjectWalk<float, walking> dst(p.dst);
         const auto multiplyNextTwo = [&]<bool readsOn>(std::bool_constant<readsOn>) __attribute__((always_inline)) {
             if constexpr (!singleB) {
-                b = rowsOf(nextTwo(walkB), rowStep);
+                b = rowsOf(nextObjects<2>(walkB), rowStep);
             }
-            const Two vectors = load<readsOn>(nextTwo(walkA));
+            const Two vectors = load<readsOn>(nextObjects<2>(walkA));
             Two sum = {};
             forEachOf<Order>([&](auto k)
                                  __attribute__((always_inline)) { sum = sum + spreadInHalves<k>(vectors) * b[k]; });
             if constexpr (hasAddend) {
-                sum = sum + load<false>(nextTwo(walkAddend));
+                sum = sum + load<false>(nextObjects<2>(walkAddend));
             }
             storeFirst<Order>(dst.object(), lowHalf(sum));
             dst.next();

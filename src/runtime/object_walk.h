@@ -6,6 +6,7 @@
 
 #include "runtime/addresses.h"
 
+#include <array>
 #include <cstddef>
 
 namespace lxpm {
@@ -67,5 +68,16 @@ private:
     std::ptrdiff_t step;
     std::ptrdiff_t bytes = 0;
 };
+
+// The first elements of the next few objects.
+template <int number, class Element, Walking walking>
+[[gnu::always_inline]] inline std::array<Element *, number> nextObjects(ObjectWalk<Element, walking> &walk) {
+    std::array<Element *, number> objects;
+    for (Element *&object : objects) {
+        object = walk.object();
+        walk.next();
+    }
+    return objects;
+}
 
 } // namespace lxpm

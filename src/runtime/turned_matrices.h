@@ -86,14 +86,8 @@ private:
         std::ptrdiff_t i = 0;
         if constexpr (isDense && sideBySide<Order>) {
             for (; i + 2 <= objects; i += 2) {
-                const auto two = [](auto &walk) __attribute__((always_inline)) {
-                    const auto first = walk.object();
-                    walk.next();
-                    const auto second = walk.object();
-                    walk.next();
-                    return std::array{first, second};
-                };
-                overTwoMatrices<Order>(f, two(destination), dstStep, Two<moves>(two(source[s]), srcStep[s])...);
+                overTwoMatrices<Order>(f, nextObjects<2>(destination), dstStep,
+                                       Two<moves>(nextObjects<2>(source[s]), srcStep[s])...);
             }
         }
         if constexpr (isDense && Order == 3) {
