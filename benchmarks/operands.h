@@ -89,7 +89,7 @@ public:
     Operand(T *base, Size size, long count)
         : base_(base), size_(size), count_(count),
           distances_(Code::kind == Kind::constant ? Distances(Form::dense, {1, 1}, count)
-                                                  : Distances(form, size, count)),
+                                                  : Distances(form, size, Code::array ? count : 1)),
           pointers_(pointers()) {}
 
     auto arguments() const {

@@ -185,7 +185,7 @@ void appendProducts(std::vector<Case> &cases) {
         appendGaxpy<double, v>(cases, cache, "gaxpy", "Gaxpy_mvav_64f", lxpmGaxpy_mvav_64f, n);
     }
 
-    for (const int n : {3, 4, 6}) {
+    for (const int n : {3, 4, 6, 12}) {
         const Setting &cache = cacheSetting();
         appendSingle<float>(cases, "Mul_mm_32f", lxpmMul_mm_32f, n);
         appendSingle<double>(cases, "Mul_mm_64f", lxpmMul_mm_64f, n);
@@ -195,12 +195,13 @@ void appendProducts(std::vector<Case> &cases) {
 #define FORMS(code, type, T, first, second)                                                                            \
     FORM(padded, code, type, T, , first, second)                                                                       \
     FORM(objectPointers, code, type, T, _L, first, second)                                                             \
-    FORM(elementPointers, code, type, T, _P, first, second)
+    FORM(elementPointers, code, type, T, _P, first, second)                                                            \
+    FORM(structureOfArrays, code, type, T, _P, first, second)
         FORMS(mama, 32f, float, ma, ma)
         FORMS(mama, 64f, double, ma, ma)
         FORMS(mava, 32f, float, ma, va)
         FORMS(mava, 64f, double, ma, va)
-        FORMS(mva, 32f, float, m, va)
+        FORMS(mva, 32f, float, m, va) FORMS(mva, 64f, double, m, va)
 #undef FORMS
 #undef FORM
     }

@@ -171,7 +171,7 @@ CrossKernel<T> chooseGroups(const CrossOperands<T> &operands) {
             return chooseSingle<T, Reading::PointedRows, Writing::Rows>(first, second);
         }
     }
-    if (bothAre(Reading::Objects) && dst.step[0] == sizeof(T) && dst.pointerStep[0] == 0) {
+    if (bothAre(Reading::Objects) && dst.objectsTouch()) {
         return chooseSingle<T, Reading::Objects, Writing::Objects>(first, second);
     }
     return nullptr;

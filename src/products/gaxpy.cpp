@@ -65,9 +65,9 @@ LxpStatus GaxpyMember<operands, T, memory>::run(const Arguments &arguments) {
             matrix.isContiguous() && vector.isContiguous() && addend.isContiguous() && destination.isContiguous();
         parallel = rowOf<GaxpyMember, thresholds>.isParallel(work, isContiguous);
     }
-    return multiplyAsItStands<T>(parallel, count,
-                                 rowProduct<T>(rows, inner, matrix.addresses(rows, inner), vector.addresses(1, inner),
-                                               addend.addresses(1, rows), destination.addresses(1, rows)));
+    return multiply<T>(parallel, count,
+                       rowProduct<T>(rows, inner, matrix.addresses(rows, inner), vector.addresses(1, inner),
+                                     addend.addresses(1, rows), destination.addresses(1, rows)));
 }
 
 } // namespace lxpm

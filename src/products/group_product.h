@@ -19,10 +19,14 @@ class GroupProduct {
 public:
     // Where columns would fill no register, or a matrix would have to be turned for a single row.
     static bool isBetter(const MatrixProduct<T> &p, std::ptrdiff_t count) {
-        const bool fits = std::max({p.rows, p.inner, p.columns}) <= largestGroup &&
-                          std::max({p.rows * p.inner, p.inner * p.columns, p.rows * p.columns}) <= largestGroup;
         const bool isNarrow = p.columns < groupSize<T> || (p.rows == 1 && !p.b.isSingle() && !p.b.rowsTouch());
-        return fits && isNarrow && count >= groupSize<T>;
+        return isNarrow && accepts(p, count);
+    }
+
+    // Where lanes are filled as memory stands.
+    static bool loadsLanes(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+        const auto isInLanes = [](const auto &operand) { return operand.objectsTouch() && !operand.rowsTouch(); };
+        return (isInLanes(p.a) || isInLanes(p.b) || isInLanes(p.dst)) && accepts(p, count);
     }
 
     // All objects but the last ones that do not fill the lanes; returns their number.
@@ -55,6 +59,12 @@ public:
     }
 
 private:
+    static bool accepts(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+        return std::max({p.rows, p.inner, p.columns}) <= largestGroup &&
+               std::max({p.rows * p.inner, p.inner * p.columns, p.rows * p.columns}) <= largestGroup &&
+               count >= groupSize<T>;
+    }
+
     // An operand, read as it is stored: its rows, or its columns if these touch.
     struct Factor {
         bool isTurned;

@@ -121,19 +121,18 @@ LxpStatus ProductMember<operands, T, memory>::run(const Arguments &arguments) {
     }
 
     if constexpr (operands[1].shape == Shape::Vector) {
-        return multiplyAsItStands<T>(parallel, count,
-                                     rowProduct<T>(rows, inner, first.addresses(rows, inner),
-                                                   second.addresses(1, inner), std::nullopt,
-                                                   destination.addresses(1, rows)));
+        return multiply<T>(parallel, count,
+                           rowProduct<T>(rows, inner, first.addresses(rows, inner), second.addresses(1, inner),
+                                         std::nullopt, destination.addresses(1, rows)));
     } else {
-        return multiplyMatrices<T>(parallel, count,
-                                   {.rows = rows,
-                                    .inner = inner,
-                                    .columns = columns,
-                                    .a = first.addresses(rows, inner),
-                                    .b = second.addresses(inner, columns),
-                                    .addend = std::nullopt,
-                                    .dst = destination.addresses(rows, columns)});
+        return multiply<T>(parallel, count,
+                           {.rows = rows,
+                            .inner = inner,
+                            .columns = columns,
+                            .a = first.addresses(rows, inner),
+                            .b = second.addresses(inner, columns),
+                            .addend = std::nullopt,
+                            .dst = destination.addresses(rows, columns)});
     }
 }
 

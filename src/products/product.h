@@ -37,6 +37,15 @@ struct MatrixProduct {
     // Whether the elements of a row touch where it is written, and where what is added to it is read.
     bool writesRows() const { return dst.rowsTouch() && (!addend || addend->rowsTouch()); }
 
+    // The same product of transposed matrices, from a transposed result's point of view.
+    MatrixProduct transposed() const {
+        MatrixProduct turned = {columns, inner, rows, b.transposed(), a.transposed(), std::nullopt, dst.transposed()};
+        if (addend) {
+            turned.addend = addend->transposed();
+        }
+        return turned;
+    }
+
     // The same product without what stands before an object.
     MatrixProduct from(std::ptrdiff_t object) const {
         MatrixProduct later = {rows, inner, columns, a.from(object), b.from(object), std::nullopt, dst.from(object)};
@@ -55,17 +64,10 @@ rowProduct(int rows, int inner, const Addresses<const T> &matrix, const Addresse
     return {1, inner, rows, vector, matrix.transposed(), addend, dst};
 }
 
-// Any product.
 template <class T>
-LxpStatus multiplyMatrices(bool parallel, int count, const MatrixProduct<T> &product);
+LxpStatus multiply(bool parallel, int count, const MatrixProduct<T> &product);
 
-// One whose destination has touching rows, if anything in it touches: as those of one row.
-template <class T>
-LxpStatus multiplyAsItStands(bool parallel, int count, const MatrixProduct<T> &product);
-
-extern template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<float> &);
-extern template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<double> &);
-extern template LxpStatus multiplyAsItStands(bool, int, const MatrixProduct<float> &);
-extern template LxpStatus multiplyAsItStands(bool, int, const MatrixProduct<double> &);
+extern template LxpStatus multiply(bool, int, const MatrixProduct<float> &);
+extern template LxpStatus multiply(bool, int, const MatrixProduct<double> &);
 
 } // namespace lxpm

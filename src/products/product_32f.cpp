@@ -5,7 +5,6 @@
 
 namespace lxpm {
 
-template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<float> &);
-template LxpStatus multiplyAsItStands(bool, int, const MatrixProduct<float> &);
+template LxpStatus multiply(bool, int, const MatrixProduct<float> &);
 
 } // namespace lxpm

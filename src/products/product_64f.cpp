@@ -5,7 +5,6 @@
 
 namespace lxpm {
 
-template LxpStatus multiplyMatrices(bool, int, const MatrixProduct<double> &);
-template LxpStatus multiplyAsItStands(bool, int, const MatrixProduct<double> &);
+template LxpStatus multiply(bool, int, const MatrixProduct<double> &);
 
 } // namespace lxpm

@@ -14,6 +14,7 @@
 #include "products/unrolled_product.h"
 #include "products/vector_product.h"
 #include "runtime/parallel.h"
+#include "runtime/straight.h"
 #include "runtime/with_order.h"
 
 #include <algorithm>
@@ -169,6 +170,8 @@ void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
         done = VectorsOf<T, Order>::run(p, count);
     } else if (ColumnProduct<T, Order>::accepts(p)) {
         done = ColumnProduct<T, Order>::run(p, count);
+    } else if (GroupProduct<T>::loadsLanes(p, count)) {
+        done = GroupProduct<T>::run(p, count);
     } else if (isOneProduct(p, count)) {
         return multiplyByPanels(p, count);
     }
@@ -181,9 +184,9 @@ void multiplySmall(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     });
 }
 
-// The objects of one thread.
+// Objects whose rows are written, if anything in them touches.
 template <class T>
-LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+LxpStatus multiplyAsTheyStand(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     const bool isUnrolled = p.inner == p.columns && (p.rows == 1 || p.rows == p.inner);
     return withOrder<3, 8>(isUnrolled ? static_cast<int>(p.inner) : 0, [&](auto order) {
         if constexpr (order != 0) {
@@ -194,7 +197,8 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
             const bool goesAsOne = isOneProduct(p, count);
             const bool goesByRows = !goesAsOne && RowProduct<T>::accepts(p, count);
             const bool isBetterByRows = goesByRows && p.columns % groupSize<T> == 0 && p.inner >= leastInner;
-            const bool goesByGroups = !goesAsOne && !isBetterByRows && GroupProduct<T>::isBetter(p, count);
+            const bool goesByGroups = GroupProduct<T>::loadsLanes(p, count) ||
+                                      (!goesAsOne && !isBetterByRows && GroupProduct<T>::isBetter(p, count));
             const std::ptrdiff_t done = goesByGroups ? GroupProduct<T>::run(p, count) : 0;
             if (done == count) {
                 return lxpStatusOk;
@@ -207,25 +211,62 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     });
 }
 
+// Rows behind pointers are those of one product, too, if they stand evenly apart. Only larger matrices repay the look
+// at the pointers.
 template <class T>
-LxpStatus multiplyAsItStands(bool parallel, int count, const MatrixProduct<T> &product) {
-    return overObjects(parallel, count, [&](int first, int objects) {
-        return withFrom(product, first, [&](const MatrixProduct<T> &later) { return multiplyObjects(later, objects); });
-    });
+LxpStatus multiplyRows(MatrixProduct<T> p, std::ptrdiff_t count) {
+    const auto straighten = [count](auto &operand, std::ptrdiff_t columns) {
+        operand = straightened(operand, {count, 1, columns});
+    };
+    straighten(p.a, p.inner);
+    straighten(p.dst, p.columns);
+    if (p.addend) {
+        straighten(*p.addend, p.columns);
+    }
+    return multiplyAsTheyStand(p, count);
+}
+
+// The objects of one thread. The kernels write rows: a transposed result is the product of the transposed operands,
+// exchanged.
+template <class T>
+LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
+    constexpr std::ptrdiff_t smaller = 8 * 8; // elements, measured in both types
+    if (p.rows == 1 && p.b.isSingle() && p.inner * p.columns > smaller && !p.walksByBytes()) {
+        return multiplyRows(p, count);
+    }
+    return p.dst.rowsTouch() || !p.dst.transposed().rowsTouch() ? multiplyAsTheyStand(p, count)
+                                                                : multiplyAsTheyStand(p.transposed(), count);
+}
+
+// An operand without its element pointers if they stand evenly apart and nothing stands between touching elements that
+// are read together: kernels read there, and it may be another's.
+template <class Element>
+Addresses<Element> withoutElementPointers(const Addresses<Element> &operand, std::ptrdiff_t rows,
+                                          std::ptrdiff_t columns) {
+    if (operand.movesByBytes()) {
+        return operand;
+    }
+    const auto straight = straightened(operand, {1, rows, columns});
+    const bool hasGaps = (straight.rowsTouch() && columns > 1 && straight.step[1] != columns * straight.step[2]) ||
+                         (straight.transposed().rowsTouch() && rows > 1 && straight.step[2] != rows * straight.step[1]);
+    return hasGaps ? operand : straight;
 }
 
 template <class T>
-LxpStatus multiplyMatrices(bool parallel, int count, const MatrixProduct<T> &product) {
-    if (product.dst.rowsTouch() || !product.dst.transposed().rowsTouch()) {
-        return multiplyAsItStands(parallel, count, product);
+LxpStatus multiply(bool parallel, int count, const MatrixProduct<T> &product) {
+    MatrixProduct<T> p = {product.rows,
+                          product.inner,
+                          product.columns,
+                          withoutElementPointers(product.a, product.rows, product.inner),
+                          withoutElementPointers(product.b, product.inner, product.columns),
+                          std::nullopt,
+                          withoutElementPointers(product.dst, product.rows, product.columns)};
+    if (product.addend) {
+        p.addend = withoutElementPointers(*product.addend, product.rows, product.columns);
     }
-    // The kernels write rows: the transposed result is the product of the transposed operands, exchanged.
-    MatrixProduct<T> turned = product;
-    std::swap(turned.rows, turned.columns);
-    turned.a = product.b.transposed();
-    turned.b = product.a.transposed();
-    turned.dst = product.dst.transposed();
-    return multiplyAsItStands(parallel, count, turned);
+    return overObjects(parallel, count, [&](int first, int objects) {
+        return withFrom(p, first, [&](const MatrixProduct<T> &later) { return multiplyObjects(later, objects); });
+    });
 }
 
 } // namespace lxpm

@@ -37,7 +37,7 @@ inline Reading readingOf(const Addresses<const T> &source) {
     if (source.step[2] == sizeof(T) && inRow) {
         return source.pointerStep[0] == 0 ? Reading::Rows : Reading::PointedRows;
     }
-    return source.step[0] == sizeof(T) && source.pointerStep[0] == 0 ? Reading::Objects : Reading::Apart;
+    return source.objectsTouch() ? Reading::Objects : Reading::Apart;
 }
 
 // Whether four elements of a row of three may be read where another object follows: if that one is close behind, no

@@ -79,6 +79,11 @@ public:
     // Whether the elements of a row touch.
     bool rowsTouch() const { return pointerStep[2] == 0 && step[2] == static_cast<std::ptrdiff_t>(sizeof(Element)); }
 
+    // Whether the same element of successive objects touches, as in a structure of arrays.
+    bool objectsTouch() const {
+        return pointerStep[0] == 0 && step[0] == static_cast<std::ptrdiff_t>(sizeof(Element));
+    }
+
     [[gnu::always_inline]] Element *at(std::ptrdiff_t object, std::ptrdiff_t row, std::ptrdiff_t column) const {
         const std::ptrdiff_t pointer = object * pointerStep[0] + row * pointerStep[1] + column * pointerStep[2];
         return shifted(pointers != nullptr ? pointers[pointer] : base,

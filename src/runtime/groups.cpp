@@ -3,54 +3,25 @@
 
 #include "runtime/groups.h"
 
+#include "runtime/straight.h"
+
 #include <algorithm>
 #include <array>
-#include <cstdint>
 
 namespace lxpm {
 
 namespace detail {
 
-// The distance between two pointers of a table, which may lead into different memory.
-template <class Element>
-std::ptrdiff_t distance(Element *from, Element *to) {
-    return static_cast<std::ptrdiff_t>(reinterpret_cast<std::uintptr_t>(to) - reinterpret_cast<std::uintptr_t>(from));
-}
-
-// Element pointers at regular steps, ascending, are strides by another name. Any other operand comes back as it is.
-template <class Element>
-Addresses<Element> withoutElementPointers(const Addresses<Element> &operand, int rows, int columns) {
-    if (operand.movesByBytes()) {
-        return operand;
-    }
-    const auto pointer = [&](std::ptrdiff_t i, std::ptrdiff_t j) {
-        return operand.pointers[i * operand.pointerStep[1] + j * operand.pointerStep[2]];
-    };
-    Element *const first = pointer(0, 0);
-    const std::ptrdiff_t rowStep =
-        rows > 1 ? distance(first, pointer(1, 0)) : columns * std::ptrdiff_t(sizeof(Element));
-    const std::ptrdiff_t columnStep = columns > 1 ? distance(first, pointer(0, 1)) : std::ptrdiff_t(sizeof(Element));
-    bool isRegular = rowStep > 0 && columnStep > 0;
-    for (std::ptrdiff_t i = 0; i < rows && isRegular; ++i) {
-        for (std::ptrdiff_t j = 0; j < columns && isRegular; ++j) {
-            isRegular = distance(first, pointer(i, j)) == i * rowStep + j * columnStep;
-        }
-    }
-    if (!isRegular) {
-        return operand;
-    }
-    return Addresses<Element>::strided(shifted(first, operand.offset), {operand.step[0], rowStep, columnStep});
-}
-
 template <class Element>
 GroupOperand<Element>::GroupOperand(const Addresses<Element> &operand, int height, int width)
-    : addresses(withoutElementPointers(operand, height, width)), rows(height), columns(width) {
+    : addresses(operand.movesByBytes() ? operand : straightened(operand, {1, height, width})), rows(height),
+      columns(width) {
     constexpr auto size = static_cast<std::ptrdiff_t>(sizeof(Element));
     if (columns == 1 && addresses.movesByBytes()) { // a column whose elements touch is a row
         addresses.step[2] = size;
     }
     access = addresses.rowsTouch()                                            ? Access::RowsTouch
-             : addresses.step[0] == size && addresses.pointerStep[0] == 0     ? Access::ObjectsTouch
+             : addresses.objectsTouch()                                       ? Access::ObjectsTouch
              : addresses.movesByBytes() && addresses.transposed().rowsTouch() ? Access::ColumnsTouch
                                                                               : Access::OneByOne;
     isDense = access == Access::RowsTouch && (rows == 1 || addresses.step[1] == columns * size);

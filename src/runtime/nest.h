@@ -6,22 +6,14 @@
 // element-wise operation depends on its sources alone, so the loops may be exchanged and merged.
 
 #include "runtime/addresses.h"
+#include "runtime/straight.h"
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
-#include <limits>
 #include <type_traits>
 #include <utility>
 
 namespace lxpm {
-
-// The loops of a call in their natural order.
-struct Extents {
-    std::ptrdiff_t objects;
-    std::ptrdiff_t rows;
-    std::ptrdiff_t columns;
-};
 
 // The operands of an element-wise call, a destination and its sources.
 template <class T, std::size_t sources>
@@ -104,7 +96,8 @@ struct Nest {
 
     // An operand whose pointers stand evenly apart is a strided one, and may be arranged as such. In natural order.
     void straighten() {
-        forEachOperand([this](auto &o) { this->straighten(o); });
+        const Extents extents = {extent[0], extent[1], extent[2]};
+        forEachOperand([&](auto &o) { o = straightened(o, extents); });
     }
 
     // Nests the loops as the memory likes best.
@@ -148,73 +141,6 @@ private:
         for (auto &source : operand.src) {
             f(source);
         }
-    }
-
-    template <class Element>
-    void straighten(Addresses<Element> &o) const {
-        if (o.pointers == nullptr) {
-            return;
-        }
-        // Object pointers move in the outermost loop alone, element pointers in the other two.
-        const int inner = o.pointerStep[0] != 0 ? 0 : 2;
-        const std::ptrdiff_t lines = inner == 0 ? 1 : extent[1];
-        // Further apart than any stride leads, or backwards, they are left alone; so are a destination's that meet.
-        constexpr std::ptrdiff_t closest = std::is_const_v<Element> ? 0 : sizeof(Element);
-        constexpr std::ptrdiff_t furthest = std::numeric_limits<int>::max();
-        Steps step = o.step;
-        for (const int loop : {inner, 1}) {
-            if (o.pointerStep[loop] != 0 && extent[loop] > 1) {
-                step[loop] = distance(o.pointers[0], o.pointers[o.pointerStep[loop]]);
-                if (step[loop] < closest || step[loop] > furthest) {
-                    return;
-                }
-            }
-        }
-        for (std::ptrdiff_t line = 0; line < lines; ++line) {
-            Element *const *pointer = o.pointers + line * o.pointerStep[1];
-            if (distance(o.pointers[0], *pointer) != line * (lines > 1 ? step[1] : 0)) {
-                return;
-            }
-            if (!areApart(step[inner], pointer, o.pointerStep[inner], extent[inner])) {
-                return;
-            }
-        }
-        o = Addresses<Element>::strided(shifted(o.pointers[0], o.offset), step);
-    }
-
-    // Whether each of n pointers leads so many bytes behind the one before it. Several are looked at before the answer
-    // is asked for: a branch for each of them would take longer than to add what most of them lead to.
-    template <class Element>
-    static bool areApart(std::ptrdiff_t bytes, Element *const *pointer, std::ptrdiff_t pointerStep, std::ptrdiff_t n) {
-        constexpr std::ptrdiff_t atOnce = 8;
-        Element *last = *pointer;
-        std::ptrdiff_t i = 1;
-        for (; i + atOnce <= n; i += atOnce) {
-            std::ptrdiff_t differences = 0;
-#pragma GCC unroll 8
-            for (int k = 0; k < atOnce; ++k) {
-                pointer += pointerStep;
-                differences |= distance(last, *pointer) ^ bytes;
-                last = *pointer;
-            }
-            if (differences != 0) {
-                return false;
-            }
-        }
-        for (; i < n; ++i) {
-            pointer += pointerStep;
-            if (distance(last, *pointer) != bytes) {
-                return false;
-            }
-            last = *pointer;
-        }
-        return true;
-    }
-
-    template <class Element>
-    static std::ptrdiff_t distance(Element *from, Element *to) {
-        return static_cast<std::ptrdiff_t>(reinterpret_cast<std::uintptr_t>(to) -
-                                           reinterpret_cast<std::uintptr_t>(from));
     }
 
     // Loops of a single step stand outermost, then those through pointers, then those by bytes.

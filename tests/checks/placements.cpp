@@ -36,10 +36,13 @@ std::vector<Placement> combination(const Model &model, int number) {
 void scatter(std::vector<Placement> &placements, int seed) {
     // None; one element; a register of either type; far into another page.
     static constexpr int offsets[] = {0, 1, 4, 8, 1025};
+    // Pointers in order, as an array of structures gives them, may be taken for strides: by all operands or by some. No
+    // divisor in common with the number of patterns, so that each of them meets both.
+    const bool areInOrder = seed % 5 < 2;
     for (std::size_t index = 0; index < placements.size(); ++index) {
         const int own = seed + static_cast<int>(index) * 3;
         placements[index].shift = own % 8;
-        placements[index].shuffle = own % 4 == 0 ? 0 : own + 1;
+        placements[index].shuffle = areInOrder || own % 4 == 0 ? 0 : own + 1;
         placements[index].ptrOffset = offsets[own % std::size(offsets)];
     }
 }
