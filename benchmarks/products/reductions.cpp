@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "case.h"
+#include "operands.h"
 #include "orders.h"
 
 #include <algorithm>
 #include <initializer_list>
 #include <lxpm/reductions.h>
+#include <tuple>
 
 namespace lxpm::bench {
 
@@ -126,11 +128,69 @@ void appendType(std::vector<Case> &cases) {
     }
 }
 
+// A function of arrays behind element pointers. Call: call(src1, src2, dst, size, count) with a tuple of arguments for
+// each operand.
+template <class T, Form form, class Source, class Result>
+void appendPointed(std::vector<Case> &cases, const std::string &group, const std::string &name, Size size, int sources,
+                   auto call) {
+    const Setting &setting = cacheSetting();
+    const std::size_t read = sources * footprint<Source, T>(form, size);
+    const std::size_t written = footprint<Result, T>(form, size);
+    const auto count = static_cast<int>(setting.bytes / (read + written));
+    const auto prepare = [=](const Memory &memory) -> Call {
+        const Operand<Source, const T, form> src1(static_cast<const T *>(memory.source1()), size, count);
+        const Operand<Source, const T, form> src2(static_cast<const T *>(memory.source2()), size, count);
+        const Operand<Result, T, form> dst(static_cast<T *>(memory.result()), size, count);
+        return [=] { return call(src1.arguments(), src2.arguments(), dst.arguments(), count); };
+    };
+    cases.push_back({.group = setting.name + "-" + group,
+                     .name = name + (sizeof(T) == sizeof(float) ? "_32f_P/" : "_64f_P/") +
+                             (size.rows > 1 ? square(size.columns) : std::to_string(size.columns)),
+                     .dense = false,
+                     .setting = setting,
+                     .objects = count,
+                     .bytesRead = count * read,
+                     .bytesWritten = count * written,
+                     .prepare = prepare,
+                     .roundedElementSize = sizeof(T)});
+}
+
+template <class T, Form form>
+void appendForm(std::vector<Case> &cases, const std::string &group) {
+    using namespace codes;
+    appendPointed<T, form, va, va>(
+        cases, group, "CrossProduct_vava", {1, 3}, 2, [](auto src1, auto src2, auto dst, int count) {
+            return std::apply(exportOf<T>(lxpmCrossProduct_vava_32f_P, lxpmCrossProduct_vava_64f_P),
+                              std::tuple_cat(src1, src2, dst, std::tuple(count)));
+        });
+    for (const int n : {3, 4, 6}) {
+        appendPointed<T, form, va, ca>(
+            cases, group, "DotProduct_vava", {1, n}, 2, [n](auto src1, auto src2, auto dst, int count) {
+                return std::apply(exportOf<T>(lxpmDotProduct_vava_32f_P, lxpmDotProduct_vava_64f_P),
+                                  std::tuple_cat(src1, src2, std::tuple(std::get<0>(dst), n, count)));
+            });
+        appendPointed<T, form, ma, ca>(
+            cases, group, "FrobNorm_ma", {n, n}, 1, [n](auto src, auto, auto dst, int count) {
+                return std::apply(exportOf<T>(lxpmFrobNorm_ma_32f_P, lxpmFrobNorm_ma_64f_P),
+                                  std::tuple_cat(src, std::tuple(n, n, std::get<0>(dst), count)));
+            });
+        appendPointed<T, form, ma, ma>(
+            cases, group, "Transpose_ma", {n, n}, 1, [n](auto src, auto, auto dst, int count) {
+                return std::apply(exportOf<T>(lxpmTranspose_ma_32f_P, lxpmTranspose_ma_64f_P),
+                                  std::tuple_cat(src, std::tuple(n, n), dst, std::tuple(count)));
+            });
+    }
+}
+
 } // namespace
 
 void appendReductions(std::vector<Case> &cases) {
     appendType<float>(cases);
     appendType<double>(cases);
+    appendForm<float, Form::elementPointers>(cases, "elementPointers");
+    appendForm<double, Form::elementPointers>(cases, "elementPointers");
+    appendForm<float, Form::structureOfArrays>(cases, "structureOfArrays");
+    appendForm<double, Form::structureOfArrays>(cases, "structureOfArrays");
 }
 
 } // namespace lxpm::bench

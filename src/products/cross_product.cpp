@@ -6,6 +6,7 @@
 #include "products/readers.h"
 #include "runtime/parallel.h"
 #include "runtime/rows.h"
+#include "runtime/straight.h"
 #include "runtime/vector_groups.h"
 #include "runtime/work.h"
 
@@ -197,8 +198,11 @@ std::ptrdiff_t crossWholeGroups(CrossOperands<T> operands, std::ptrdiff_t object
 // All objects of a call.
 template <class T>
 [[gnu::noinline]] LxpStatus crossObjects(bool parallel, int count, const CrossOperands<T> &operands) {
+    const CrossOperands<T> straight = {withoutElementPointers(operands.first, 1, length),
+                                       withoutElementPointers(operands.second, 1, length),
+                                       withoutElementPointers(operands.dst, 1, length)};
     return overObjects(parallel, count, [&](int first, int objects) {
-        withFrom(operands, first, [&](const CrossOperands<T> &own) {
+        withFrom(straight, first, [&](const CrossOperands<T> &own) {
             const std::ptrdiff_t done = objects >= groupSize<T> ? crossWholeGroups(own, objects) : 0;
             crossOneByOne(own, done, objects);
         });

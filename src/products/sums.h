@@ -15,6 +15,7 @@
 #include "products/readers.h"
 #include "runtime/object_walk.h"
 #include "runtime/parallel.h"
+#include "runtime/straight.h"
 #include "runtime/twice.h"
 #include "runtime/with_order.h"
 
@@ -489,8 +490,12 @@ template <class T, class Finish, std::size_t sources>
                                         const SumOperands<T, sources> &operands) {
     using Sums = lxpm::Sums<T, Finish, sources>;
     const auto sums = isSplit ? Sums::split : Sums::ascending;
+    SumOperands<T, sources> straight = operands;
+    for (auto &source : straight.src) {
+        source = withoutElementPointers(source, rows, columns);
+    }
     return overObjects(parallel, count, [&](int first, int objects) {
-        withFrom(operands, first, [&](const SumOperands<T, sources> &later) { sums(later, rows, columns, objects); });
+        withFrom(straight, first, [&](const SumOperands<T, sources> &later) { sums(later, rows, columns, objects); });
         return lxpStatusOk;
     });
 }

@@ -6,6 +6,7 @@
 #include "products/readers.h"
 #include "runtime/parallel.h"
 #include "runtime/rows.h"
+#include "runtime/straight.h"
 #include "runtime/with_order.h"
 #include "runtime/work.h"
 
@@ -122,8 +123,9 @@ void traces(Addresses<const T> diagonal, T *dst, int order, int objects) {
 template <class T>
 [[gnu::noinline]] LxpStatus traceObjects(bool parallel, int count, int order, const Addresses<const T> &source,
                                          T *dst) {
+    const Addresses<const T> diagonal = withoutElementPointers(diagonalOf(source), 1, order);
     return overObjects(parallel, count, [&](int first, int objects) {
-        traces(diagonalOf(source.from(first)), dst + first, order, objects);
+        traces(diagonal.from(first), dst + first, order, objects);
         return lxpStatusOk;
     });
 }

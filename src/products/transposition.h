@@ -13,6 +13,7 @@
 #include "runtime/nest.h"
 #include "runtime/object_walk.h"
 #include "runtime/runs.h"
+#include "runtime/straight.h"
 #include "runtime/streaming.h"
 #include "runtime/turned_matrices.h"
 #include "runtime/with_order.h"
@@ -347,7 +348,8 @@ private:
 template <class T>
 [[gnu::noinline]] void transposeObjects(int objects, int height, int width, const Addresses<const T> &source,
                                         const Addresses<T> &destination) {
-    Transposition<T>::run(objects, height, width, source, destination);
+    Transposition<T>::run(objects, height, width, withoutElementPointers(source, height, width),
+                          withoutElementPointers(destination, width, height));
 }
 
 } // namespace lxpm

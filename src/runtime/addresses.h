@@ -80,9 +80,7 @@ public:
     bool rowsTouch() const { return pointerStep[2] == 0 && step[2] == static_cast<std::ptrdiff_t>(sizeof(Element)); }
 
     // Whether the same element of successive objects touches, as in a structure of arrays.
-    bool objectsTouch() const {
-        return pointerStep[0] == 0 && step[0] == static_cast<std::ptrdiff_t>(sizeof(Element));
-    }
+    bool objectsTouch() const { return pointerStep[0] == 0 && step[0] == static_cast<std::ptrdiff_t>(sizeof(Element)); }
 
     [[gnu::always_inline]] Element *at(std::ptrdiff_t object, std::ptrdiff_t row, std::ptrdiff_t column) const {
         const std::ptrdiff_t pointer = object * pointerStep[0] + row * pointerStep[1] + column * pointerStep[2];

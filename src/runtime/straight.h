@@ -99,4 +99,18 @@ Addresses<Element> straightened(const Addresses<Element> &operand, const Extents
     return Addresses<Element>::strided(shifted(operand.pointers[0], operand.offset), step);
 }
 
+// An operand without its element pointers if they stand evenly apart and nothing stands between touching elements that
+// are read together: kernels read there, and it may be another's.
+template <class Element>
+Addresses<Element> withoutElementPointers(const Addresses<Element> &operand, std::ptrdiff_t rows,
+                                          std::ptrdiff_t columns) {
+    if (operand.movesByBytes()) {
+        return operand;
+    }
+    const auto straight = straightened(operand, {1, rows, columns});
+    const bool hasGaps = (straight.rowsTouch() && columns > 1 && straight.step[1] != columns * straight.step[2]) ||
+                         (straight.transposed().rowsTouch() && rows > 1 && straight.step[2] != rows * straight.step[1]);
+    return hasGaps ? operand : straight;
+}
+
 } // namespace lxpm
