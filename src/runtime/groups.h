@@ -394,24 +394,25 @@ template <Permuting permuting, int Rows, int Columns, class L>
     }
 }
 
-// Row numbers that stand object after object, in lanes.
+// Row numbers that stand object after object, in lanes. Their bits are turned as those of floats are, of four objects
+// in both halves.
 template <int Rows, class T>
 [[gnu::always_inline]] inline std::array<Group<T>, Rows> numbersInLanes(const int *rowOf) {
+    const float *const bits = reinterpret_cast<const float *>(rowOf);
     std::array<Group<T>, Rows> numbers;
     if constexpr (Rows == 3) {
-        const float *const bits = reinterpret_cast<const float *>(rowOf);
         const auto turnedBits =
             turned(groupSize<T> == 8 ? loadTriples(bits)
                                      : Triples<float>{bothHalves(bits), bothHalves(bits + 4), bothHalves(bits + 8)});
         forEachOf<Rows>([&](auto i)
                             __attribute__((always_inline)) { numbers[i].vector = numbersOf<T>(turnedBits[i]).vector; });
     } else {
-#pragma GCC unroll 8
-        for (int i = 0; i < Rows; ++i) {
-            numbers[i] = Group<T>::of([&](auto lane) __attribute__((always_inline)) {
-                return static_cast<T>(rowOf[lane * Rows + i]);
-            });
-        }
+        Group<float> turnedBits[Rows != 0 ? Rows : 1];
+        detail::loadLength<Rows, float>(
+            detail::inLanes<const float>([&](std::ptrdiff_t lane) { return bits + lane % groupSize<T> * Rows; }),
+            turnedBits);
+        forEachOf<Rows>([&](auto i)
+                            __attribute__((always_inline)) { numbers[i].vector = numbersOf<T>(turnedBits[i]).vector; });
     }
     return numbers;
 }
@@ -436,8 +437,20 @@ public:
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
-        // The rows of three are sooner exchanged than looked up.
-        if constexpr (detail::goesByColumns<kind, Columns> || Rows == 3) {
+        // The rows of three are sooner exchanged than looked up, and so are the columns of eight objects, but not of
+        // four.
+        if constexpr (detail::goesByColumns<kind, Columns> && Rows != 3 && groupSize<T> == 4) {
+            const auto places = detail::pointersTo<kind, Rows * Columns>(from, object);
+            forEachOf<Rows>([&](auto row) __attribute__((always_inline)) {
+                const auto rows = detail::inLanes<const T>(
+                    [&](std::ptrdiff_t lane) { return places[lane] + rowOf[lane * Rows + row]; });
+                forEachOf<Columns>([&](auto column) __attribute__((always_inline)) {
+                    const auto elements = detail::lineOfObjects(rows, from.addresses.step[2], column);
+                    to[row * Columns + column] =
+                        Group<T>::of([&](auto lane) __attribute__((always_inline)) { return *elements[lane]; });
+                });
+            });
+        } else if constexpr (detail::goesByColumns<kind, Columns> || Rows == 3) {
             Group<T> elements[Rows * Columns];
             load<Rows, Columns>(object, elements);
             permuteRows<Permuting::Forwards, Rows, Columns>(elements, numbersInLanes<Rows, T>(rowOf).data(), to);
