@@ -201,7 +201,8 @@ void appendProducts(std::vector<Case> &cases) {
         FORMS(mama, 64f, double, ma, ma)
         FORMS(mava, 32f, float, ma, va)
         FORMS(mava, 64f, double, ma, va)
-        FORMS(mva, 32f, float, m, va) FORMS(mva, 64f, double, m, va)
+        FORMS(mva, 32f, float, m, va)
+        FORMS(mva, 64f, double, m, va)
 #undef FORMS
 #undef FORM
     }

@@ -26,27 +26,51 @@ struct Elements {
 
 enum class Results { Equal, Rounded };
 
+// What a case is called, and the bytes of one object.
+struct Measured {
+    std::string group;
+    std::string name; // without the type
+    std::string layout;
+    std::string size;
+    bool dense;
+    std::size_t read;
+    std::size_t written;
+    Results results;
+};
+
+// As many objects as the setting has memory for. Prepare: prepare(memory, count) gives the call.
+template <class T>
+void appendCase(std::vector<Case> &cases, const Setting &setting, const Measured &measured, auto prepare) {
+    const auto count = static_cast<int>(std::max<std::size_t>(1, setting.bytes / (measured.read + measured.written)));
+    cases.push_back(
+        {.group = setting.name + "-" + measured.group,
+         .name = measured.name + (sizeof(T) == sizeof(float) ? "_32f" : "_64f") + measured.layout + "/" + measured.size,
+         .dense = measured.dense,
+         .setting = setting,
+         .objects = count,
+         .bytesRead = count * measured.read,
+         .bytesWritten = count * measured.written,
+         .prepare = [=](const Memory &memory) -> Call { return prepare(memory, count); },
+         .roundedElementSize = measured.results == Results::Rounded ? sizeof(T) : 0});
+}
+
 template <class T>
 void append(std::vector<Case> &cases, const Setting &setting, const std::string &code, const std::string &name,
             const std::string &size, int n, Elements elements, Results results, OnArrays<T> function) {
-    const std::size_t read = elements.read * sizeof(T);
-    const std::size_t written = elements.written * sizeof(T);
-    const auto count = static_cast<int>(std::max<std::size_t>(1, setting.bytes / (read + written)));
-    const auto prepare = [=](const Memory &memory) -> Call {
+    const Measured measured = {.group = code,
+                               .name = name + "_" + code,
+                               .layout = "",
+                               .size = size,
+                               .dense = true,
+                               .read = elements.read * sizeof(T),
+                               .written = elements.written * sizeof(T),
+                               .results = results};
+    appendCase<T>(cases, setting, measured, [=](const Memory &memory, int count) -> Call {
         const auto *src1 = static_cast<const T *>(memory.source1());
         const auto *src2 = static_cast<const T *>(memory.source2());
         auto *dst = static_cast<T *>(memory.result());
         return [=] { return function(src1, src2, dst, n, count); };
-    };
-    cases.push_back({.group = setting.name + "-" + code,
-                     .name = name + "_" + code + (sizeof(T) == sizeof(float) ? "_32f/" : "_64f/") + size,
-                     .dense = true,
-                     .setting = setting,
-                     .objects = count,
-                     .bytesRead = count * read,
-                     .bytesWritten = count * written,
-                     .prepare = prepare,
-                     .roundedElementSize = results == Results::Rounded ? sizeof(T) : 0});
+    });
 }
 
 std::string square(int n) {
@@ -128,31 +152,25 @@ void appendType(std::vector<Case> &cases) {
     }
 }
 
-// A function of arrays behind element pointers. Call: call(src1, src2, dst, size, count) with a tuple of arguments for
-// each operand.
+// A function of arrays behind element pointers. Call: call(src1, src2, dst, count) with a tuple of arguments for each
+// operand.
 template <class T, Form form, class Source, class Result>
 void appendPointed(std::vector<Case> &cases, const std::string &group, const std::string &name, Size size, int sources,
                    auto call) {
-    const Setting &setting = cacheSetting();
-    const std::size_t read = sources * footprint<Source, T>(form, size);
-    const std::size_t written = footprint<Result, T>(form, size);
-    const auto count = static_cast<int>(setting.bytes / (read + written));
-    const auto prepare = [=](const Memory &memory) -> Call {
+    const Measured measured = {.group = group,
+                               .name = name,
+                               .layout = "_P",
+                               .size = size.rows > 1 ? square(size.columns) : std::to_string(size.columns),
+                               .dense = false,
+                               .read = sources * footprint<Source, T>(form, size),
+                               .written = footprint<Result, T>(form, size),
+                               .results = Results::Rounded};
+    appendCase<T>(cases, cacheSetting(), measured, [=](const Memory &memory, int count) -> Call {
         const Operand<Source, const T, form> src1(static_cast<const T *>(memory.source1()), size, count);
         const Operand<Source, const T, form> src2(static_cast<const T *>(memory.source2()), size, count);
         const Operand<Result, T, form> dst(static_cast<T *>(memory.result()), size, count);
         return [=] { return call(src1.arguments(), src2.arguments(), dst.arguments(), count); };
-    };
-    cases.push_back({.group = setting.name + "-" + group,
-                     .name = name + (sizeof(T) == sizeof(float) ? "_32f_P/" : "_64f_P/") +
-                             (size.rows > 1 ? square(size.columns) : std::to_string(size.columns)),
-                     .dense = false,
-                     .setting = setting,
-                     .objects = count,
-                     .bytesRead = count * read,
-                     .bytesWritten = count * written,
-                     .prepare = prepare,
-                     .roundedElementSize = sizeof(T)});
+    });
 }
 
 template <class T, Form form>

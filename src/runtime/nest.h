@@ -10,7 +10,6 @@
 
 #include <array>
 #include <cstddef>
-#include <type_traits>
 #include <utility>
 
 namespace lxpm {
