@@ -198,15 +198,18 @@ std::ptrdiff_t crossWholeGroups(CrossOperands<T> operands, std::ptrdiff_t object
 // All objects of a call.
 template <class T>
 [[gnu::noinline]] LxpStatus crossObjects(bool parallel, int count, const CrossOperands<T> &operands) {
-    const CrossOperands<T> straight = {withoutElementPointers(operands.first, 1, length),
-                                       withoutElementPointers(operands.second, 1, length),
-                                       withoutElementPointers(operands.dst, 1, length)};
-    return overObjects(parallel, count, [&](int first, int objects) {
-        withFrom(straight, first, [&](const CrossOperands<T> &own) {
-            const std::ptrdiff_t done = objects >= groupSize<T> ? crossWholeGroups(own, objects) : 0;
-            crossOneByOne(own, done, objects);
+    const auto straight = [&]() -> CrossOperands<T> {
+        return {withoutElementPointers(operands.first, 1, length), withoutElementPointers(operands.second, 1, length),
+                withoutElementPointers(operands.dst, 1, length)};
+    };
+    return withStraight(operands, operands.dst, straight, [&](const CrossOperands<T> &all) {
+        return overObjects(parallel, count, [&](int first, int objects) {
+            withFrom(all, first, [&](const CrossOperands<T> &own) {
+                const std::ptrdiff_t done = objects >= groupSize<T> ? crossWholeGroups(own, objects) : 0;
+                crossOneByOne(own, done, objects);
+            });
+            return lxpStatusOk;
         });
-        return lxpStatusOk;
     });
 }
 

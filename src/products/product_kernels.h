@@ -239,20 +239,30 @@ LxpStatus multiplyObjects(const MatrixProduct<T> &p, std::ptrdiff_t count) {
 }
 
 template <class T>
-LxpStatus multiply(bool parallel, int count, const MatrixProduct<T> &product) {
-    MatrixProduct<T> p = {product.rows,
-                          product.inner,
-                          product.columns,
-                          withoutElementPointers(product.a, product.rows, product.inner),
-                          withoutElementPointers(product.b, product.inner, product.columns),
-                          std::nullopt,
-                          withoutElementPointers(product.dst, product.rows, product.columns)};
-    if (product.addend) {
-        p.addend = withoutElementPointers(*product.addend, product.rows, product.columns);
+MatrixProduct<T> withoutElementPointers(const MatrixProduct<T> &p) {
+    MatrixProduct<T> straight = {p.rows,
+                                 p.inner,
+                                 p.columns,
+                                 withoutElementPointers(p.a, p.rows, p.inner),
+                                 withoutElementPointers(p.b, p.inner, p.columns),
+                                 std::nullopt,
+                                 withoutElementPointers(p.dst, p.rows, p.columns)};
+    if (p.addend) {
+        straight.addend = withoutElementPointers(*p.addend, p.rows, p.columns);
     }
-    return overObjects(parallel, count, [&](int first, int objects) {
-        return withFrom(p, first, [&](const MatrixProduct<T> &later) { return multiplyObjects(later, objects); });
-    });
+    return straight;
+}
+
+template <class T>
+LxpStatus multiply(bool parallel, int count, const MatrixProduct<T> &product) {
+    return withStraight(
+        product, product.dst, [&] { return withoutElementPointers(product); },
+        [&](const MatrixProduct<T> &p) {
+            return overObjects(parallel, count, [&](int first, int objects) {
+                return withFrom(p, first,
+                                [&](const MatrixProduct<T> &later) { return multiplyObjects(later, objects); });
+            });
+        });
 }
 
 } // namespace lxpm

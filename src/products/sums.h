@@ -490,13 +490,18 @@ template <class T, class Finish, std::size_t sources>
                                         const SumOperands<T, sources> &operands) {
     using Sums = lxpm::Sums<T, Finish, sources>;
     const auto sums = isSplit ? Sums::split : Sums::ascending;
-    SumOperands<T, sources> straight = operands;
-    for (auto &source : straight.src) {
-        source = withoutElementPointers(source, rows, columns);
-    }
-    return overObjects(parallel, count, [&](int first, int objects) {
-        withFrom(straight, first, [&](const SumOperands<T, sources> &later) { sums(later, rows, columns, objects); });
-        return lxpStatusOk;
+    const auto straight = [&] {
+        SumOperands<T, sources> all = operands;
+        for (auto &source : all.src) {
+            source = withoutElementPointers(source, rows, columns);
+        }
+        return all;
+    };
+    return withStraight(operands, operands.src[0], straight, [&](const SumOperands<T, sources> &all) {
+        return overObjects(parallel, count, [&](int first, int objects) {
+            withFrom(all, first, [&](const SumOperands<T, sources> &later) { sums(later, rows, columns, objects); });
+            return lxpStatusOk;
+        });
     });
 }
 

@@ -348,6 +348,9 @@ private:
 template <class T>
 [[gnu::noinline]] void transposeObjects(int objects, int height, int width, const Addresses<const T> &source,
                                         const Addresses<T> &destination) {
+    if (source.movesByBytes() && destination.movesByBytes()) { // as they stand, not copies
+        return Transposition<T>::run(objects, height, width, source, destination);
+    }
     Transposition<T>::run(objects, height, width, withoutElementPointers(source, height, width),
                           withoutElementPointers(destination, width, height));
 }

@@ -113,4 +113,12 @@ Addresses<Element> withoutElementPointers(const Addresses<Element> &operand, std
     return hasGaps ? operand : straight;
 }
 
+// Calls use(operands), or use(straight()) if `any` of them moves through element pointers, as then all of them do. Most
+// are used as they stand: to copy them would take as long as to compute a small object.
+template <class Operands, class Straight, class Use, class Element>
+[[gnu::always_inline]] inline auto withStraight(const Operands &operands, const Addresses<Element> &any,
+                                                const Straight &straight, const Use &use) {
+    return any.movesByBytes() ? use(operands) : use(straight());
+}
+
 } // namespace lxpm
