@@ -40,6 +40,8 @@ bool GroupOperand<Element>::areAll(ObjectKind kind) const {
         return access == Access::RowsTouch;
     case ObjectKind::ByColumns:
         return access == (rows > 1 && columns > 1 ? Access::ColumnsTouch : Access::RowsTouch);
+    case ObjectKind::Interleaved:
+        return access == Access::ObjectsTouch || (columns == 1 && addresses.objectsTouch());
     }
     return false;
 }
@@ -212,7 +214,7 @@ void loadGroup(const GroupOperand<const T> &from, std::ptrdiff_t object, Group<T
     constexpr bool isKnown = Rows != 0;
     const int rows = isKnown ? Rows : from.rows;
     const int columns = isKnown ? Columns : from.columns;
-    const bool isPermuted = byIndex && isKnown;
+    constexpr bool isPermuted = byIndex && isKnown;
     if (from.access == Access::RowsTouch) {
         const Places<const T> places(from.addresses, object);
         if (from.isDense && !byIndex && (part == Part::Whole || rows <= 6)) {
@@ -252,9 +254,11 @@ void loadGroup(const GroupOperand<const T> &from, std::ptrdiff_t object, Group<T
                 to[element] = Group<T>::load(places[0]);
             });
     } else if (isPermuted && (from.access == Access::ColumnsTouch || from.access == Access::ObjectsTouch)) {
-        Group<T> elements[isKnown ? Rows * Columns : 1];
-        loadGroup<part, false, Rows, Columns, T>(from, object, elements, nullptr);
-        permuteRows<Permuting::Forwards, Rows, Columns>(elements, numbersInLanes<Rows, T>(rowOf).data(), to);
+        if constexpr (isPermuted) {
+            Group<T> elements[Rows * Columns];
+            loadGroup<part, false, Rows, Columns, T>(from, object, elements, nullptr);
+            takeRows<Rows, Columns, T>(detail::columnsOf<Rows, Columns, T>(elements), rowOf, to);
+        }
     } else {
         pickGroup<part, byIndex, T>(from, object, to, rowOf);
     }

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <type_traits>
 
@@ -28,6 +29,9 @@ inline constexpr int largestCopied = 16;
 
 // The elements up to which an operand of a group of objects fits the stack and the first cache.
 inline constexpr int largestGroup = largestCopied * largestCopied;
+
+// The same of objects of known sizes.
+inline constexpr int largestKnownGroup = 6 * 6;
 
 // Whether all of a matrix takes part, or what stands above its diagonal is none of the operation's business.
 enum class Part { Whole, LowerTriangle };
@@ -46,9 +50,10 @@ constexpr int readableLengthOf(Part part, int row, int columns) {
 enum class Access { RowsTouch, ColumnsTouch, ObjectsTouch, OneByOne };
 
 // Kinds of objects: without gaps, the next one following without a gap, too, so that all are a known distance apart;
-// without gaps, anywhere; with gaps between their rows; by columns, with gaps between them. (Vectors, which a call has
-// beside matrices of any kind, are of the last one as well if their elements touch, or if they stand in a column.)
-enum class ObjectKind { Follow, Anywhere, WithGaps, ByColumns };
+// without gaps, anywhere; with gaps between their rows; by columns, with gaps between them; the same element of
+// successive objects touching, as in a structure of arrays. (Vectors, which a call has beside matrices of any kind, are
+// by columns as well if their elements touch, or if they stand in a column.)
+enum class ObjectKind { Follow, Anywhere, WithGaps, ByColumns, Interleaved };
 
 constexpr bool isWithoutGaps(ObjectKind kind) {
     return kind == ObjectKind::Follow || kind == ObjectKind::Anywhere;
@@ -336,15 +341,22 @@ template <Part part, int Rows, int Columns, class T, class Column>
     });
 }
 
+// Calls f(element) for those that are part of the operation.
+template <Part part, int Rows, int Columns, class F>
+[[gnu::always_inline]] inline void overPart(const F &f) {
+    forEachOf<Rows * Columns>([&](auto element) __attribute__((always_inline)) {
+        if constexpr (element % Columns < lengthOf(part, element / Columns, Columns)) {
+            f(element);
+        }
+    });
+}
+
 // To and from functions that take an address: a known number of elements goes by way of a copy, since what an address
 // is taken of cannot stay in registers.
 template <Part part, int Rows, int Columns, class T>
 [[gnu::always_inline]] inline void copyElements(const Group<T> *from, Group<T> *to) {
-    forEachOf<Rows * Columns>([&](auto element) __attribute__((always_inline)) {
-        if constexpr (element % Columns < lengthOf(part, element / Columns, Columns)) {
-            to[element].vector = from[element].vector;
-        }
-    });
+    overPart<part, Rows, Columns>([&](auto element)
+                                      __attribute__((always_inline)) { to[element].vector = from[element].vector; });
 }
 
 template <int Rows, int Columns, Part part = Part::Whole, class T, class Load>
@@ -371,11 +383,9 @@ template <int Rows, int Columns, Part part = Part::Whole, class T, class Store>
 
 } // namespace detail
 
-// Rows in another order in each object: row i of the result is row rowOf[i], or the other way round.
-enum class Permuting { Forwards, Backwards };
-
-template <Permuting permuting, int Rows, int Columns, class L>
-[[gnu::always_inline]] inline void permuteRows(const L *from, const L *rowOf, L *to) {
+// Rows in another order in each object: row i of them is row rowOf[i] of the result.
+template <int Rows, int Columns, class L>
+[[gnu::always_inline]] inline void putRows(const L *from, const L *rowOf, L *to) {
 #pragma GCC unroll 8
     for (int i = 0; i < Rows; ++i) {
 #pragma GCC unroll 8
@@ -384,8 +394,7 @@ template <Permuting permuting, int Rows, int Columns, class L>
         }
 #pragma GCC unroll 8
         for (int k = 1; k < Rows; ++k) {
-            const auto isMeant = permuting == Permuting::Forwards ? isEqual(rowOf[i], constant<L>(k))
-                                                                  : isEqual(rowOf[k], constant<L>(i));
+            const auto isMeant = isEqual(rowOf[k], constant<L>(i));
 #pragma GCC unroll 8
             for (int j = 0; j < Columns; ++j) {
                 to[i * Columns + j] = choose(isMeant, from[k * Columns + j], to[i * Columns + j]);
@@ -394,28 +403,75 @@ template <Permuting permuting, int Rows, int Columns, class L>
     }
 }
 
-// Row numbers that stand object after object, in lanes. Their bits are turned as those of floats are, of four objects
-// in both halves.
+namespace detail {
+
+// Row numbers that stand object after object, in lanes, as bits of floats; those of four objects in both halves.
 template <int Rows, class T>
-[[gnu::always_inline]] inline std::array<Group<T>, Rows> numbersInLanes(const int *rowOf) {
+[[gnu::always_inline]] inline std::array<Group<float>, Rows> numbersInLanes(const int *rowOf) {
     const float *const bits = reinterpret_cast<const float *>(rowOf);
-    std::array<Group<T>, Rows> numbers;
     if constexpr (Rows == 3) {
-        const auto turnedBits =
-            turned(groupSize<T> == 8 ? loadTriples(bits)
-                                     : Triples<float>{bothHalves(bits), bothHalves(bits + 4), bothHalves(bits + 8)});
-        forEachOf<Rows>([&](auto i)
-                            __attribute__((always_inline)) { numbers[i].vector = numbersOf<T>(turnedBits[i]).vector; });
+        return turned(groupSize<T> == 8 ? loadTriples(bits)
+                                        : Triples<float>{bothHalves(bits), bothHalves(bits + 4), bothHalves(bits + 8)});
     } else {
-        Group<float> turnedBits[Rows != 0 ? Rows : 1];
-        detail::loadLength<Rows, float>(
-            detail::inLanes<const float>([&](std::ptrdiff_t lane) { return bits + lane % groupSize<T> * Rows; }),
-            turnedBits);
-        forEachOf<Rows>([&](auto i)
-                            __attribute__((always_inline)) { numbers[i].vector = numbersOf<T>(turnedBits[i]).vector; });
+        std::array<Group<float>, Rows> numbers;
+        loadLength<Rows, float>(
+            inLanes<const float>([&](std::ptrdiff_t lane) { return bits + lane % groupSize<T> * Rows; }),
+            numbers.data());
+        return numbers;
     }
-    return numbers;
 }
+
+// Of the rows from `first` on, as many as `bits` bits tell apart, one for each lane: isSet[b] says where bit b of its
+// number is.
+template <int bits, int first, int Rows, class T>
+[[gnu::always_inline]] inline Group<T> rowByBits(const Group<T> *rows, const MaskOf<Group<T>> *isSet) {
+    if constexpr (bits == 0) {
+        return rows[first];
+    } else {
+        constexpr int upper = first + (1 << (bits - 1));
+        const Group<T> row = rowByBits<bits - 1, first, Rows, T>(rows, isSet);
+        if constexpr (upper < Rows) {
+            return choose(isSet[bits - 1], rowByBits<bits - 1, upper, Rows, T>(rows, isSet), row);
+        }
+        return row;
+    }
+}
+
+} // namespace detail
+
+// The other way round: row i of the result is row rowOf[i] of its object, numbers that stand object after object.
+// loadColumn(j, elements) reads a column: one after the other, so that few registers have to hold them.
+template <int Rows, int Columns, class T, class LoadColumn>
+[[gnu::always_inline]] inline void takeRows(const LoadColumn &loadColumn, const int *rowOf, Group<T> *to) {
+    constexpr int bits = std::max<int>(std::bit_width(static_cast<unsigned>(Rows - 1)), 1);
+    const auto numbers = detail::numbersInLanes<Rows, T>(rowOf);
+    MaskOf<Group<T>> isSet[Rows][bits];
+    forEachOf<Rows>([&](auto i) __attribute__((always_inline)) {
+        forEachOf<bits>([&](auto bit) __attribute__((always_inline)) {
+            isSet[i][bit].bits = bitInLanes<bit, T>(numbers[i]).vector;
+        });
+    });
+    forEachOf<Columns>([&](auto j) __attribute__((always_inline)) {
+        Group<T> rows[Rows];
+        loadColumn(j, rows);
+        forEachOf<Rows>([&](auto i) __attribute__((always_inline)) {
+            to[i * Columns + j].vector = detail::rowByBits<bits, 0, Rows, T>(rows, isSet[i]).vector;
+        });
+    });
+}
+
+namespace detail {
+
+// Of what is in lanes.
+template <int Rows, int Columns, class T>
+[[gnu::always_inline]] inline auto columnsOf(const Group<T> *elements) {
+    return [=](auto j, Group<T> *column) __attribute__((always_inline)) {
+        forEachOf<Rows>([&](auto i)
+                            __attribute__((always_inline)) { column[i].vector = elements[i * Columns + j].vector; });
+    };
+}
+
+} // namespace detail
 
 // How operands are read and written, object after object from `object` on, row by row.
 //
@@ -437,9 +493,9 @@ public:
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
-        // The rows of three are sooner exchanged than looked up, and so are the columns of eight objects, but not of
-        // four.
-        if constexpr (detail::goesByColumns<kind, Columns> && Rows != 3 && groupSize<T> == 4) {
+        // The rows of three are sooner exchanged than looked up, and so are columns, but not those of four objects when
+        // a row's number has more than two bits.
+        if constexpr (detail::goesByColumns<kind, Columns> && Rows > 4 && groupSize<T> == 4) {
             const auto places = detail::pointersTo<kind, Rows * Columns>(from, object);
             forEachOf<Rows>([&](auto row) __attribute__((always_inline)) {
                 const auto rows = detail::inLanes<const T>(
@@ -450,10 +506,17 @@ public:
                         Group<T>::of([&](auto lane) __attribute__((always_inline)) { return *elements[lane]; });
                 });
             });
-        } else if constexpr (detail::goesByColumns<kind, Columns> || Rows == 3) {
+        } else if constexpr (detail::goesByColumns<kind, Columns> && Rows != 3) {
+            const auto places = detail::pointersTo<kind, Rows * Columns>(from, object);
+            takeRows<Rows, Columns, T>(
+                [&](auto j, Group<T> *column) __attribute__((always_inline)) {
+                    detail::loadLength<Rows, T>(detail::lineOfObjects(places, from.addresses.step[2], j), column);
+                },
+                rowOf, to);
+        } else if constexpr (Rows == 3) {
             Group<T> elements[Rows * Columns];
             load<Rows, Columns>(object, elements);
-            permuteRows<Permuting::Forwards, Rows, Columns>(elements, numbersInLanes<Rows, T>(rowOf).data(), to);
+            takeRows<Rows, Columns, T>(detail::columnsOf<Rows, Columns, T>(elements), rowOf, to);
         } else {
             const auto places = detail::pointersTo<kind, Rows * Columns>(from, object);
             const std::ptrdiff_t step = detail::rowStepOf<kind, Columns>(from);
@@ -510,7 +573,7 @@ public:
                                       const Group<T> *rowOfInLanes) const {
         if constexpr (kind == detail::ObjectKind::ByColumns) {
             Group<T> inPlace[Order * Order];
-            permuteRows<Permuting::Backwards, Order, Order>(from, rowOfInLanes, inPlace);
+            putRows<Order, Order>(from, rowOfInLanes, inPlace);
             store<Order, Order>(object, inPlace);
         } else {
             const auto places = detail::pointersTo<kind, Order * Order>(to, object);
@@ -551,6 +614,99 @@ private:
     }
 
     const detail::GroupOperand<T> &to;
+};
+
+namespace detail {
+
+// Where the elements of object 0 stand, those of the next ones behind them.
+template <class Element>
+class InterleavedPlaces {
+public:
+    explicit InterleavedPlaces(const GroupOperand<Element> &operand) {
+        for (int i = 0; i < operand.rows; ++i) {
+            for (int j = 0; j < operand.columns; ++j) {
+                places[i * operand.columns + j] = operand.addresses.at(0, i, j);
+            }
+        }
+    }
+
+    [[gnu::always_inline]] Element *at(std::ptrdiff_t object, int element) const { return places[element] + object; }
+
+private:
+    Element *places[largestKnownGroup];
+};
+
+} // namespace detail
+
+template <class T>
+class PlainGroupSource<T, detail::ObjectKind::Interleaved> {
+public:
+    explicit PlainGroupSource(const detail::GroupOperand<const T> &operand) : from(operand) {}
+
+    template <int Rows, int Columns>
+    [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to) const {
+        loadPart<Part::Whole, Rows, Columns>(object, to);
+    }
+
+    template <int Rows, int Columns>
+    [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
+        takeRows<Rows, Columns, T>(
+            [&](auto j, Group<T> *column) __attribute__((always_inline)) {
+                forEachOf<Rows>([&](auto i) __attribute__((always_inline)) {
+                    column[i].vector = Group<T>::load(from.at(object, i * Columns + j)).vector;
+                });
+            },
+            rowOf, to);
+    }
+
+    template <int Order>
+    [[gnu::always_inline]] void loadLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
+        loadPart<Part::LowerTriangle, Order, Order>(object, to);
+    }
+
+private:
+    template <Part part, int Rows, int Columns>
+    [[gnu::always_inline]] void loadPart(std::ptrdiff_t object, Group<T> *to) const {
+        detail::overPart<part, Rows, Columns>([&](auto element) __attribute__((always_inline)) {
+            to[element].vector = Group<T>::load(from.at(object, element)).vector;
+        });
+    }
+
+    detail::InterleavedPlaces<const T> from;
+};
+
+template <class T>
+class PlainGroupDestination<T, detail::ObjectKind::Interleaved> {
+public:
+    explicit PlainGroupDestination(const detail::GroupOperand<T> &operand) : to(operand) {}
+
+    template <int Rows, int Columns>
+    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from) const {
+        storePart<Part::Whole, Rows, Columns>(object, from);
+    }
+
+    template <int Order>
+    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *,
+                                      const Group<T> *rowOfInLanes) const {
+        Group<T> inPlace[Order * Order];
+        putRows<Order, Order>(from, rowOfInLanes, inPlace);
+        store<Order, Order>(object, inPlace);
+    }
+
+    template <int Order>
+    [[gnu::always_inline]] void storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
+        storePart<Part::LowerTriangle, Order, Order>(object, from);
+    }
+
+private:
+    template <Part part, int Rows, int Columns>
+    [[gnu::always_inline]] void storePart(std::ptrdiff_t object, const Group<T> *from) const {
+        detail::overPart<part, Rows, Columns>([&](auto element) __attribute__((always_inline)) {
+            from[element].store(to.at(object, element));
+        });
+    }
+
+    detail::InterleavedPlaces<T> to;
 };
 
 // Any objects.
@@ -619,7 +775,7 @@ public:
         if constexpr (Order != 0) {
             if (to.access == detail::Access::ColumnsTouch || to.access == detail::Access::ObjectsTouch) {
                 Group<T> inPlace[Order * Order];
-                permuteRows<Permuting::Backwards, Order, Order>(from, rowOfInLanes, inPlace);
+                putRows<Order, Order>(from, rowOfInLanes, inPlace);
                 store<Order, Order>(object, inPlace);
                 return;
             }
@@ -662,6 +818,7 @@ template <int Order, class F, class... Operands>
         tryKind(std::integral_constant<ObjectKind, ObjectKind::Anywhere>());
         tryKind(std::integral_constant<ObjectKind, ObjectKind::WithGaps>());
         tryKind(std::integral_constant<ObjectKind, ObjectKind::ByColumns>());
+        tryKind(std::integral_constant<ObjectKind, ObjectKind::Interleaved>());
     }
     if (!isDone) {
         f(operands...);

@@ -313,14 +313,14 @@ inline Lanes<T, fullLanes<T>> loadSome(const T *from, std::ptrdiff_t n) {
     }
 }
 
-// The whole numbers whose bits the lanes hold; for doubles, the first four.
-template <class T>
-inline Group<T> numbersOf(Lanes<float, 8> bits) {
-    const __m256i whole = _mm256_castps_si256(bits.vector);
+// Whether a bit of whole numbers, given as the bits of floats, is set: by the signs. For doubles, of the first four.
+template <int bit, class T>
+inline Group<T> bitInLanes(Lanes<float, 8> numbers) {
+    const auto toSign = [](Lanes<float, 4> half) { return _mm_slli_epi32(_mm_castps_si128(half.vector), 31 - bit); };
     if constexpr (sizeof(T) == sizeof(float)) {
-        return {_mm256_cvtepi32_ps(whole)};
+        return {_mm256_castsi256_ps(_mm256_set_m128i(toSign(highHalf(numbers)), toSign(lowHalf(numbers))))};
     } else {
-        return {_mm256_cvtepi32_pd(_mm256_castsi256_si128(whole))};
+        return {_mm256_cvtepi32_pd(toSign(lowHalf(numbers)))};
     }
 }
 

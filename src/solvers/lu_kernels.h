@@ -117,7 +117,7 @@ bool decomposeGroup(const Source &source, const Destination &destination, int or
     storeIndex(rowNumbers, n, index);
     if constexpr (Order == 3) { // nine elements are fewer stores than three times three
         Group<T> inPlace[9];
-        permuteRows<Permuting::Backwards, 3, 3>(a, rowNumbers, inPlace);
+        putRows<3, 3>(a, rowNumbers, inPlace);
         destination.template store<3, 3>(object, inPlace);
     } else {
         destination.template store<Order>(object, a, index, rowNumbers);
