@@ -196,6 +196,51 @@ template <int Rows, int whole, class Row, std::size_t Order, class A, class D, c
     }
 }
 
+// Rows that end in half a register, this half in both halves of it: the ends of two rows of the result share a register
+// and its products.
+template <class T, int N>
+struct RowWithHalf {
+    static_assert(N == fullLanes<T> + fullLanes<T> / 2);
+    static constexpr bool isWide = true;
+    using Register = Lanes<T, fullLanes<T>>;
+
+    static RowWithHalf load(const T *from) { return {Register::load(from), bothHalves(from + fullLanes<T>)}; }
+
+    Register whole;
+    Register half;
+};
+
+template <int Rows, class T, std::size_t Order, class A, class D>
+[[gnu::always_inline]] inline void multiplyRowsByTwo(A a, const std::array<RowWithHalf<T, int(Order)>, Order> &b,
+                                                     D dst) {
+    static_assert(Rows % 2 == 0);
+    using Register = Lanes<T, fullLanes<T>>;
+#pragma GCC unroll 8
+    for (int i = 0; i < Rows; i += 2) {
+        const A nextA = a.below();
+        const D nextDst = dst.below();
+        Register upper = {};
+        Register lower = {};
+        Register ends = {};
+        // Opaque: GCC would form the products of all columns first, for which there are not enough registers.
+#pragma GCC unroll 8
+        for (std::size_t k = 0; k < Order; ++k) {
+            const Register ofUpper = Register::splat(*a.at(0, static_cast<std::ptrdiff_t>(k)));
+            const Register ofLower = Register::splat(*nextA.at(0, static_cast<std::ptrdiff_t>(k)));
+            upper = opaque(upper + ofUpper * b[k].whole);
+            lower = opaque(lower + ofLower * b[k].whole);
+            ends = opaque(ends + halves<0, 3>(ofUpper, ofLower) * b[k].half);
+        }
+        upper.store(dst.at(0, 0));
+        lower.store(nextDst.at(0, 0));
+        storeHalves(dst.at(0, fullLanes<T>), nextDst.at(0, fullLanes<T>), ends);
+        if (i + 2 < Rows) {
+            a = nextA.below();
+            dst = nextDst.below();
+        }
+    }
+}
+
 template <Walking walking, class T, int Order, int Rows, Given given>
 void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
     const MatrixProduct<T> p = shared; // a copy that no store below can reach
@@ -206,7 +251,9 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
     const std::ptrdiff_t addendRow = p.addend ? p.addend->step[1] : 0;
     const std::ptrdiff_t dstRow = p.dst.step[1];
 
-    using Row = ElementRow<T, Order>;
+    constexpr bool byTwo = Order == 6 && Rows == 6 && fullLanes<T> == 4;
+    static_assert(!byTwo || !given.addend);
+    using Row = std::conditional_t<byTwo, RowWithHalf<T, 6>, ElementRow<T, Order>>;
     std::array<Row, Order> b;
     const auto loadB = [&](const T *first) __attribute__((always_inline)) {
 #pragma GCC unroll 8
@@ -235,7 +282,9 @@ void multiplyUnrolled(const MatrixProduct<T> &shared, std::ptrdiff_t count) {
         const std::conditional_t<spreads, TouchingObject<const T>, StridedObject<const T>> a(
             StridedObject<const T>{walkA.object(), aRow, aElement});
         const TouchingObject<T> dst({walkDst.object(), dstRow, size});
-        if constexpr (given.addend) {
+        if constexpr (byTwo) {
+            multiplyRowsByTwo<Rows, T>(a, b, dst);
+        } else if constexpr (given.addend) {
             multiplyRows<Rows, whole>(a, b, dst, TouchingObject<const T>({walkAddend.object(), addendRow, size}));
         } else {
             multiplyRows<Rows, whole>(a, b, dst);

@@ -224,6 +224,12 @@ inline Lanes<double, 4> loadHalves(const double *low, const double *high) {
     return {_mm256_insertf128_pd(_mm256_castpd128_pd256(_mm_loadu_pd(low)), _mm_loadu_pd(high), 1)};
 }
 
+// And back.
+inline void storeHalves(double *low, double *high, Lanes<double, 4> lanes) {
+    _mm_storeu_pd(low, _mm256_castpd256_pd128(lanes.vector));
+    _mm_storeu_pd(high, _mm256_extractf128_pd(lanes.vector, 1));
+}
+
 inline Lanes<float, 8> joined(Lanes<float, 4> low, Lanes<float, 4> high) {
     return {_mm256_insertf128_ps(_mm256_castps128_ps256(low.vector), high.vector, 1)};
 }
