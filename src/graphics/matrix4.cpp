@@ -67,11 +67,6 @@ inline float reciprocalOf(float x) {
     return (estimate + estimate) - x * (estimate * estimate);
 }
 
-inline void storeHalves(RowPair rows, float *low, float *high) {
-    lowRow(rows).store(low);
-    highRow(rows).store(high);
-}
-
 // Columns 0 and 2 in one register, 1 and 3 in the other, to rows in memory. The comments give row and column, a bar
 // between the halves of a register.
 inline void storeFromColumns(RowPair columns02, RowPair columns13, float *matrix) {

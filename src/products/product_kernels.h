@@ -53,13 +53,12 @@ template <Walking walking, class T, int Order, Moves a>
 void multiplySquares(const MatrixProduct<T> &p, std::ptrdiff_t count) {
     const bool singleB = p.b.isSingle();
     if constexpr (a != Moves::Any) {
-        const bool denseRows = p.dst.step[1] == bytesOfRow<T, Order>;
-        if constexpr (ElementRow<T, Order>::mayReadOn) {
-            if (!singleB && denseRows && mayReadOn(p.b.step[1], bytesOfRow<T, Order>)) {
-                return multiplyUnrolled<walking, T, Order, Order, Given{a, false, true, false, true}>(p, count);
+        if (p.dst.step[1] == bytesOfRow<T, Order>) {
+            if constexpr (ElementRow<T, Order>::mayReadOn) {
+                if (!singleB && mayReadOn(p.b.step[1], bytesOfRow<T, Order>)) {
+                    return multiplyUnrolled<walking, T, Order, Order, Given{a, false, true, false, true}>(p, count);
+                }
             }
-        }
-        if (denseRows) {
             return singleB ? multiplyUnrolled<walking, T, Order, Order, Given{a, true, true, false}>(p, count)
                            : multiplyUnrolled<walking, T, Order, Order, Given{a, false, true, false}>(p, count);
         }

@@ -233,7 +233,7 @@ template <int Rows, class T, std::size_t Order, class A, class D>
         }
         upper.store(dst.at(0, 0));
         lower.store(nextDst.at(0, 0));
-        storeHalves(dst.at(0, fullLanes<T>), nextDst.at(0, fullLanes<T>), ends);
+        storeHalves(ends, dst.at(0, fullLanes<T>), nextDst.at(0, fullLanes<T>));
         if (i + 2 < Rows) {
             a = nextA.below();
             dst = nextDst.below();

@@ -471,6 +471,29 @@ template <int Rows, int Columns, class T>
     };
 }
 
+// Where the elements of object 0 stand, those of the next ones behind them.
+template <class Element>
+class InterleavedPlaces {
+public:
+    explicit InterleavedPlaces(const GroupOperand<Element> &operand) {
+        for (int i = 0; i < operand.rows; ++i) {
+            for (int j = 0; j < operand.columns; ++j) {
+                places[i * operand.columns + j] = operand.addresses.at(0, i, j);
+            }
+        }
+    }
+
+    [[gnu::always_inline]] Element *at(std::ptrdiff_t object, int element) const { return places[element] + object; }
+
+private:
+    Element *places[largestKnownGroup];
+};
+
+// What is asked for the elements of objects of one kind.
+template <ObjectKind kind, class Element>
+using PlacesOf =
+    std::conditional_t<kind == ObjectKind::Interleaved, InterleavedPlaces<Element>, const GroupOperand<Element> &>;
+
 } // namespace detail
 
 // How operands are read and written, object after object from `object` on, row by row.
@@ -493,9 +516,17 @@ public:
 
     template <int Rows, int Columns>
     [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
-        // The rows of three are sooner exchanged than looked up, and so are columns, but not those of four objects when
-        // a row's number has more than two bits.
-        if constexpr (detail::goesByColumns<kind, Columns> && Rows > 4 && groupSize<T> == 4) {
+        // What stands in lanes already, the rows of three and columns are sooner exchanged than looked up, but not the
+        // columns of four objects when a row's number has more than two bits.
+        if constexpr (kind == detail::ObjectKind::Interleaved) {
+            takeRows<Rows, Columns, T>(
+                [&](auto j, Group<T> *column) __attribute__((always_inline)) {
+                    forEachOf<Rows>([&](auto i) __attribute__((always_inline)) {
+                        column[i].vector = Group<T>::load(from.at(object, i * Columns + j)).vector;
+                    });
+                },
+                rowOf, to);
+        } else if constexpr (detail::goesByColumns<kind, Columns> && Rows > 4 && groupSize<T> == 4) {
             const auto places = detail::pointersTo<kind, Rows * Columns>(from, object);
             forEachOf<Rows>([&](auto row) __attribute__((always_inline)) {
                 const auto rows = detail::inLanes<const T>(
@@ -535,7 +566,17 @@ public:
 private:
     template <Part part, int Rows, int Columns>
     [[gnu::always_inline]] void loadPart(std::ptrdiff_t object, Group<T> *to) const {
-        const auto places = detail::pointersTo<kind, Rows * Columns>(from, object);
+        if constexpr (kind == detail::ObjectKind::Interleaved) {
+            detail::overPart<part, Rows, Columns>([&](auto element) __attribute__((always_inline)) {
+                to[element].vector = Group<T>::load(from.at(object, element)).vector;
+            });
+        } else {
+            loadFrom<part, Rows, Columns>(detail::pointersTo<kind, Rows * Columns>(from, object), to);
+        }
+    }
+
+    template <Part part, int Rows, int Columns>
+    [[gnu::always_inline]] void loadFrom(const detail::Pointers<const T> &places, Group<T> *to) const {
         if constexpr (kind == detail::ObjectKind::Follow && Rows * Columns == 3) {
             const Triples<T> elements = turned(loadTriples(places[0]));
             forEachOf<3>([&](auto i) __attribute__((always_inline)) { to[i].vector = elements[i].vector; });
@@ -555,7 +596,7 @@ private:
         }
     }
 
-    const detail::GroupOperand<const T> &from;
+    detail::PlacesOf<kind, const T> from;
 };
 
 template <class T, detail::ObjectKind kind>
@@ -571,7 +612,7 @@ public:
     template <int Order>
     [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *rowOf,
                                       const Group<T> *rowOfInLanes) const {
-        if constexpr (kind == detail::ObjectKind::ByColumns) {
+        if constexpr (kind == detail::ObjectKind::ByColumns || kind == detail::ObjectKind::Interleaved) {
             Group<T> inPlace[Order * Order];
             putRows<Order, Order>(from, rowOfInLanes, inPlace);
             store<Order, Order>(object, inPlace);
@@ -593,7 +634,17 @@ public:
 private:
     template <Part part, int Rows, int Columns>
     [[gnu::always_inline]] void storePart(std::ptrdiff_t object, const Group<T> *from) const {
-        const auto places = detail::pointersTo<kind, Rows * Columns>(to, object);
+        if constexpr (kind == detail::ObjectKind::Interleaved) {
+            detail::overPart<part, Rows, Columns>([&](auto element) __attribute__((always_inline)) {
+                from[element].store(to.at(object, element));
+            });
+        } else {
+            storeTo<part, Rows, Columns>(from, detail::pointersTo<kind, Rows * Columns>(to, object));
+        }
+    }
+
+    template <Part part, int Rows, int Columns>
+    [[gnu::always_inline]] void storeTo(const Group<T> *from, const detail::Pointers<T> &places) const {
         if constexpr (kind == detail::ObjectKind::Follow && Rows * Columns == 3) {
             writeTriples(places[0], Triples<T>{from[0], from[1], from[2]});
         } else if constexpr (part == Part::Whole && (Rows == 1 || detail::isWithoutGaps(kind))) {
@@ -613,100 +664,7 @@ private:
         }
     }
 
-    const detail::GroupOperand<T> &to;
-};
-
-namespace detail {
-
-// Where the elements of object 0 stand, those of the next ones behind them.
-template <class Element>
-class InterleavedPlaces {
-public:
-    explicit InterleavedPlaces(const GroupOperand<Element> &operand) {
-        for (int i = 0; i < operand.rows; ++i) {
-            for (int j = 0; j < operand.columns; ++j) {
-                places[i * operand.columns + j] = operand.addresses.at(0, i, j);
-            }
-        }
-    }
-
-    [[gnu::always_inline]] Element *at(std::ptrdiff_t object, int element) const { return places[element] + object; }
-
-private:
-    Element *places[largestKnownGroup];
-};
-
-} // namespace detail
-
-template <class T>
-class PlainGroupSource<T, detail::ObjectKind::Interleaved> {
-public:
-    explicit PlainGroupSource(const detail::GroupOperand<const T> &operand) : from(operand) {}
-
-    template <int Rows, int Columns>
-    [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to) const {
-        loadPart<Part::Whole, Rows, Columns>(object, to);
-    }
-
-    template <int Rows, int Columns>
-    [[gnu::always_inline]] void load(std::ptrdiff_t object, Group<T> *to, const int *rowOf) const {
-        takeRows<Rows, Columns, T>(
-            [&](auto j, Group<T> *column) __attribute__((always_inline)) {
-                forEachOf<Rows>([&](auto i) __attribute__((always_inline)) {
-                    column[i].vector = Group<T>::load(from.at(object, i * Columns + j)).vector;
-                });
-            },
-            rowOf, to);
-    }
-
-    template <int Order>
-    [[gnu::always_inline]] void loadLowerTriangle(std::ptrdiff_t object, Group<T> *to) const {
-        loadPart<Part::LowerTriangle, Order, Order>(object, to);
-    }
-
-private:
-    template <Part part, int Rows, int Columns>
-    [[gnu::always_inline]] void loadPart(std::ptrdiff_t object, Group<T> *to) const {
-        detail::overPart<part, Rows, Columns>([&](auto element) __attribute__((always_inline)) {
-            to[element].vector = Group<T>::load(from.at(object, element)).vector;
-        });
-    }
-
-    detail::InterleavedPlaces<const T> from;
-};
-
-template <class T>
-class PlainGroupDestination<T, detail::ObjectKind::Interleaved> {
-public:
-    explicit PlainGroupDestination(const detail::GroupOperand<T> &operand) : to(operand) {}
-
-    template <int Rows, int Columns>
-    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from) const {
-        storePart<Part::Whole, Rows, Columns>(object, from);
-    }
-
-    template <int Order>
-    [[gnu::always_inline]] void store(std::ptrdiff_t object, const Group<T> *from, const int *,
-                                      const Group<T> *rowOfInLanes) const {
-        Group<T> inPlace[Order * Order];
-        putRows<Order, Order>(from, rowOfInLanes, inPlace);
-        store<Order, Order>(object, inPlace);
-    }
-
-    template <int Order>
-    [[gnu::always_inline]] void storeLowerTriangle(std::ptrdiff_t object, const Group<T> *from) const {
-        storePart<Part::LowerTriangle, Order, Order>(object, from);
-    }
-
-private:
-    template <Part part, int Rows, int Columns>
-    [[gnu::always_inline]] void storePart(std::ptrdiff_t object, const Group<T> *from) const {
-        detail::overPart<part, Rows, Columns>([&](auto element) __attribute__((always_inline)) {
-            from[element].store(to.at(object, element));
-        });
-    }
-
-    detail::InterleavedPlaces<T> to;
+    detail::PlacesOf<kind, T> to;
 };
 
 // Any objects.
@@ -814,6 +772,7 @@ template <int Order, class F, class... Operands>
         }
     };
     if constexpr (Order != 0) {
+        static_assert(Order * Order <= largestKnownGroup);
         tryKind(std::integral_constant<ObjectKind, ObjectKind::Follow>());
         tryKind(std::integral_constant<ObjectKind, ObjectKind::Anywhere>());
         tryKind(std::integral_constant<ObjectKind, ObjectKind::WithGaps>());

@@ -225,7 +225,12 @@ inline Lanes<double, 4> loadHalves(const double *low, const double *high) {
 }
 
 // And back.
-inline void storeHalves(double *low, double *high, Lanes<double, 4> lanes) {
+inline void storeHalves(Lanes<float, 8> lanes, float *low, float *high) {
+    _mm_storeu_ps(low, _mm256_castps256_ps128(lanes.vector));
+    _mm_storeu_ps(high, _mm256_extractf128_ps(lanes.vector, 1));
+}
+
+inline void storeHalves(Lanes<double, 4> lanes, double *low, double *high) {
     _mm_storeu_pd(low, _mm256_castpd256_pd128(lanes.vector));
     _mm_storeu_pd(high, _mm256_extractf128_pd(lanes.vector, 1));
 }
@@ -392,10 +397,8 @@ inline void storePairs(const std::array<Lanes<float, 4>, 2> &elements, const std
 
 inline void storePairs(std::array<Lanes<double, 4>, 2> elements, const std::array<double *, 4> &to) {
     transposeHalves(elements[0], elements[1]);
-    _mm_storeu_pd(to[0], _mm256_castpd256_pd128(elements[0].vector));
-    _mm_storeu_pd(to[1], _mm256_castpd256_pd128(elements[1].vector));
-    _mm_storeu_pd(to[2], _mm256_extractf128_pd(elements[0].vector, 1));
-    _mm_storeu_pd(to[3], _mm256_extractf128_pd(elements[1].vector, 1));
+    storeHalves(elements[0], to[0], to[2]);
+    storeHalves(elements[1], to[1], to[3]);
 }
 
 // The sum over the lanes of each of several registers, as

@@ -35,11 +35,6 @@ constexpr Spacing spacingOf(std::ptrdiff_t stride) {
 
 namespace detail {
 
-inline void storeHalves(Group<float> group, float *low, float *high) {
-    lowHalf(group).store(low);
-    highHalf(group).store(high);
-}
-
 template <int e0, int e1, int e2, int e3>
 inline Group<float> shuffled(Group<float> a, Group<float> b) {
     return {_mm256_shuffle_ps(a.vector, b.vector, _MM_SHUFFLE(e3, e2, e1, e0))};
@@ -164,7 +159,6 @@ template <int K, Spacing spacing>
 template <int K, bool isPacked>
 [[gnu::always_inline]] inline void writeVectors(float *to, std::ptrdiff_t stride, const Vectors<K> &element) {
     if constexpr (K == 2 && isPacked) {
-        using detail::storeHalves;
         const auto [x, y] = element;
         storeHalves({_mm256_unpacklo_ps(x.vector, y.vector)}, to, to + 8);
         storeHalves({_mm256_unpackhi_ps(x.vector, y.vector)}, to + 4, to + 12);
